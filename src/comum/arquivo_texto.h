@@ -1,0 +1,41 @@
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+#include <vector>
+
+/// Text files: read whatever their age left them as, written one way, replaced whole or not at all.
+namespace varenta {
+
+/// Larger files are refused before anything of them is read.
+inline constexpr std::size_t maiorArquivo = std::size_t{64} << 20;
+
+/// The bytes of a text file as UTF-8 without a byte order mark. Bytes that are no UTF-8 are taken as
+/// Windows-1252, with its five undefined bytes as the control characters of the same number.
+std::string decodificar(std::string_view bytes);
+
+/// The whole file, decoded. Raises a run-time error with the reason in Portuguese where it can't be read.
+std::string lerTexto(const std::string& caminho);
+
+/// The lines of a text file, one after another. LF and CR LF both end a line; the last one may lack its end.
+class LeitorDeLinhas {
+  public:
+    /// Reads the file. Raises as `lerTexto`.
+    explicit LeitorDeLinhas(const std::string& caminho) : texto_{lerTexto(caminho)} {}
+
+    bool fim() const { return posição_ >= texto_.size(); }
+    /// The next line without its end. Raises "Entrada após o fim do arquivo" where there is none.
+    std::string próxima();
+
+  private:
+    std::string texto_;
+    std::size_t posição_ = 0;
+};
+
+/// Writes `texto` (UTF-8, lines ended by CR LF) in place of the file. The new file takes the old one's name
+/// only when it is whole and safely on disk; on failure the old file stays as it was, nothing else is left
+/// behind, and a run-time error tells the reason in Portuguese.
+void gravarTexto(const std::string& caminho, std::string_view texto);
+
+} // namespace varenta

@@ -1,0 +1,56 @@
+#include "comum/planilha.h"
+
+#include "comum/numeros.h"
+#include "comum/operacoes.h"
+#include "comum/plataforma.h"
+
+namespace varenta {
+
+void entrarNaCélula(const Planilha& planilha) {
+    if (!planilha.digitação) return;
+    const auto& grade = planilha.grade;
+    planilha.nomeDaCélula.texto =
+        grade.célula(grade.linhaAtual, 0) + " : " + grade.célula(0, grade.colunaAtual);
+    definirTexto(planilha.entrada, grade.célula(grade.linhaAtual, grade.colunaAtual));
+}
+
+void sairDaCélula(const Planilha& planilha) {
+    auto& grade = planilha.grade;
+    if (!planilha.digitação || grade.linhaAtual < 1 || grade.colunaAtual < 1) return;
+    std::string texto = planilha.entrada.texto;
+    if (éNumérico(texto)) texto = Format(lerPrefixo(texto), planilha.padrãoDaColuna(grade.colunaAtual));
+    grade.escrever(grade.linhaAtual, grade.colunaAtual, std::move(texto));
+}
+
+void irParaCélula(const Planilha& planilha, int linha, int coluna) {
+    auto& grade = planilha.grade;
+    grade.célula(linha, coluna);
+    sairDaCélula(planilha);
+    grade.linhaAtual = linha;
+    grade.colunaAtual = coluna;
+    entrarNaCélula(planilha);
+}
+
+void receberFoco(const Planilha& planilha) {
+    focar(planilha.entrada);
+    planilha.entrada.tudoSelecionado = true;
+}
+
+bool teclar(const Planilha& planilha, int tecla) {
+    if (planilha.contagem && !éNumérico(planilha.contagem->texto)) {
+        plataforma::mensagem("Insira valores numéricos!");
+        focar(*planilha.contagem);
+        return true;
+    }
+    if (tecla != teclaEnter || !planilha.digitação) return false;
+    const auto& grade = planilha.grade;
+    if (grade.colunaAtual + 1 < grade.colunas)
+        irParaCélula(planilha, grade.linhaAtual, grade.colunaAtual + 1);
+    else if (grade.linhaAtual + 1 < grade.linhas)
+        irParaCélula(planilha, grade.linhaAtual + 1, 1);
+    else
+        irParaCélula(planilha, grade.linhaAtual, grade.colunaAtual);
+    return true;
+}
+
+} // namespace varenta

@@ -1,0 +1,44 @@
+#pragma once
+
+#include "comum/controles.h"
+
+#include <string_view>
+
+namespace varenta {
+
+inline constexpr int teclaEnter = 13;
+
+/// A grid together with the text box that stands in for its current cell. A screen with such a grid makes
+/// this view of its own controls on demand and lends it to the functions below.
+struct Planilha {
+    Grade& grade;
+    CaixaTexto& entrada;
+    /// Shows the name of the current cell: its row's number, " : " and its column's header.
+    Rotulo& nomeDaCélula;
+    /// The box with the number of data rows, where the screen has one: entries wait until it is numeric.
+    CaixaTexto* contagem;
+    /// Typing mode. Off while the grid shows a file that was loaded: it takes no entry then.
+    bool digitação;
+    /// The format in which a data column (from 1) writes its numbers.
+    std::string_view (*padrãoDaColuna)(int coluna);
+};
+
+/// The current cell was entered: the entry line takes its text and the cell's name is shown.
+void entrarNaCélula(const Planilha& planilha);
+
+/// The current cell is left: what the entry line holds goes to the cell, a number in its column's format, a
+/// text that is no number as typed (a later check answers it), an empty one empties the cell.
+void sairDaCélula(const Planilha& planilha);
+
+/// Leaves the current cell and enters another. Raises "Índice fora dos limites" outside the grid.
+void irParaCélula(const Planilha& planilha, int linha, int coluna);
+
+/// The grid has got the focus: it passes to the entry line with its whole text selected.
+void receberFoco(const Planilha& planilha);
+
+/// A key pressed in the entry line. Enter takes the value over and moves on: to the next column, after the
+/// last one to the first data column of the next row; in the last cell of all it stays. While the row count
+/// is no number, any key is answered by a message instead. Returns whether the key was used up.
+bool teclar(const Planilha& planilha, int tecla);
+
+} // namespace varenta

@@ -1,0 +1,32 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+/// What the system asks of the front end that runs it. Each front end links its own definitions: dialogs of a
+/// window, the queue of a script, the notebook of a test.
+namespace varenta::plataforma {
+
+struct DialogoArquivo {
+    /// "Text files|*.TXT|All files|*.*": names and masks, separated by bars.
+    std::string filtro;
+    /// Ending of a name typed without one, for saving; without its point.
+    std::string extensãoPadrão = {};
+};
+
+/// A plain message box with an OK button.
+void mensagem(std::string_view texto);
+/// A box with Yes and No; true for Yes.
+bool perguntar(std::string_view texto);
+/// A quiet notice beside the results, which stops nothing.
+void avisar(std::string_view texto);
+/// A run-time error has ended an operation.
+void erroDeExecucao(std::string_view texto);
+/// The path chosen, in UTF-8; nothing where the dialog was cancelled.
+std::optional<std::string> arquivoParaAbrir(const DialogoArquivo& diálogo);
+std::optional<std::string> arquivoParaSalvar(const DialogoArquivo& diálogo);
+/// The program is to end: the main window was closed.
+void encerrar();
+
+} // namespace varenta::plataforma
