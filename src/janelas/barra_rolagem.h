@@ -1,0 +1,16 @@
+#pragma once
+
+#include <QScrollBar>
+
+/// A horizontal scroll bar that enters a number: it takes the keyboard focus, shows that it has it, and its
+/// Right arrow raises the value.
+class BarraRolagem : public QScrollBar {
+  public:
+    explicit BarraRolagem(QWidget* pai = nullptr);
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
+  protected:
+    void paintEvent(QPaintEvent* evento) override;
+};

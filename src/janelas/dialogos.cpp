@@ -1,0 +1,142 @@
+#include "janelas/dialogos.h"
+
+#include "comum/plataforma.h"
+#include "roteiro/interprete.h"
+
+#include <QApplication>
+#include <QFileDialog>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QRegularExpression>
+
+#include <string>
+
+namespace varenta {
+namespace {
+
+QMessageBox::StandardButton mostrarCaixa(QMessageBox::Icon ícone, const QString& texto,
+                                         QMessageBox::StandardButtons botões) {
+    QMessageBox caixa{ícone, QStringLiteral("Varenta"), texto, botões, QApplication::activeWindow()};
+    caixa.setTextFormat(Qt::PlainText);
+    if (auto* sim = caixa.button(QMessageBox::Yes)) sim->setText(QStringLiteral("&Sim"));
+    if (auto* não = caixa.button(QMessageBox::No)) não->setText(QStringLiteral("&Não"));
+    return static_cast<QMessageBox::StandardButton>(caixa.exec());
+}
+
+std::optional<QString> escolherArquivo(QFileDialog& diálogo) {
+    if (diálogo.exec() != QDialog::Accepted) return std::nullopt;
+    return diálogo.selectedFiles().value(0);
+}
+
+QString qtexto(std::string_view texto) {
+    return QString::fromUtf8(texto.data(), static_cast<qsizetype>(texto.size()));
+}
+
+std::optional<std::string> caminho(const std::optional<QString>& escolhido) {
+    if (!escolhido) return std::nullopt;
+    return escolhido->toStdString();
+}
+
+void preparar() {
+    if (antesDeCadaDialogo) antesDeCadaDialogo();
+}
+
+} // namespace
+
+Dialogos dialogosDoQt() {
+    return {
+        .mensagem =
+            [](const QString& texto) { mostrarCaixa(QMessageBox::Information, texto, QMessageBox::Ok); },
+        .perguntar =
+            [](const QString& texto) {
+                return mostrarCaixa(QMessageBox::Question, texto, QMessageBox::Yes | QMessageBox::No) ==
+                       QMessageBox::Yes;
+            },
+        .erroDeExecucao =
+            [](const QString& texto) { mostrarCaixa(QMessageBox::Critical, texto, QMessageBox::Ok); },
+        .arquivoParaAbrir =
+            [](const QString& filtros) {
+                QFileDialog diálogo{
+                    QApplication::activeWindow(), QStringLiteral("Abrir Arquivo"), {}, filtros};
+                diálogo.setFileMode(QFileDialog::ExistingFile);
+                return escolherArquivo(diálogo);
+            },
+        .arquivoParaSalvar =
+            [](const QString& filtros, const QString& extensãoPadrão) {
+                QFileDialog diálogo{
+                    QApplication::activeWindow(), QStringLiteral("Salvar Arquivo"), {}, filtros};
+                diálogo.setAcceptMode(QFileDialog::AcceptSave);
+                diálogo.setOption(QFileDialog::DontConfirmOverwrite);
+                diálogo.setDefaultSuffix(extensãoPadrão);
+                return escolherArquivo(diálogo);
+            },
+    };
+}
+
+Dialogos& dialogos() {
+    static Dialogos emUso = dialogosDoQt();
+    return emUso;
+}
+
+QString filtrosDoQt(const QString& filtro) {
+    static const QRegularExpression máscarasNoNome{QStringLiteral("\\s*\\([^)]*\\)\\s*$")};
+    const auto partes = filtro.split(QLatin1Char{'|'});
+    QStringList filtros;
+    for (qsizetype k = 0; k + 1 < partes.size(); k += 2) {
+        const auto máscara = partes[k + 1];
+        const auto máscaras = máscara == QLatin1String{"*.*"}
+                                  ? QStringLiteral("*")
+                                  : máscara + QLatin1Char{' '} + máscara.toLower();
+        filtros << QString{partes[k]}.remove(máscarasNoNome) + QStringLiteral(" (") + máscaras +
+                       QLatin1Char{')'};
+    }
+    return filtros.join(QStringLiteral(";;"));
+}
+
+/// While a roteiro runs in the windows, it is told and asked instead of the person.
+namespace plataforma {
+
+void mensagem(std::string_view texto) {
+    if (auto* roteiro = Interprete::ativo()) return roteiro->mensagem(texto);
+    preparar();
+    dialogos().mensagem(qtexto(texto));
+}
+
+bool perguntar(std::string_view texto) {
+    if (auto* roteiro = Interprete::ativo()) return roteiro->perguntar(texto);
+    preparar();
+    return dialogos().perguntar(qtexto(texto));
+}
+
+void avisar(std::string_view texto) {
+    // In a window the notice stands in a label of its screen already.
+    if (auto* roteiro = Interprete::ativo()) roteiro->avisar(texto);
+}
+
+void erroDeExecucao(std::string_view texto) {
+    if (auto* roteiro = Interprete::ativo()) return roteiro->erroDeExecucao(texto);
+    preparar();
+    dialogos().erroDeExecucao(qtexto(texto));
+}
+
+std::optional<std::string> arquivoParaAbrir(const DialogoArquivo& diálogo) {
+    if (auto* roteiro = Interprete::ativo()) return roteiro->arquivoParaAbrir();
+    preparar();
+    return caminho(dialogos().arquivoParaAbrir(filtrosDoQt(qtexto(diálogo.filtro))));
+}
+
+std::optional<std::string> arquivoParaSalvar(const DialogoArquivo& diálogo) {
+    if (auto* roteiro = Interprete::ativo()) return roteiro->arquivoParaSalvar(diálogo);
+    preparar();
+    return caminho(
+        dialogos().arquivoParaSalvar(filtrosDoQt(qtexto(diálogo.filtro)), qtexto(diálogo.extensãoPadrão)));
+}
+
+void encerrar() {
+    if (auto* roteiro = Interprete::ativo()) return roteiro->encerrar();
+    // Not quit(), which would ask every window to close once more.
+    QCoreApplication::exit();
+}
+
+} // namespace plataforma
+} // namespace varenta

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <QString>
+
+#include <functional>
+#include <optional>
+
+/// The boxes that stop the program until the person answers: the one seam through which all of them go.
+/// A test, and a roteiro that runs in the windows, answer in the person's place.
+namespace varenta {
+
+struct Dialogos {
+    std::function<void(const QString& texto)> mensagem;
+    /// True for Yes.
+    std::function<bool(const QString& texto)> perguntar;
+    std::function<void(const QString& texto)> erroDeExecucao;
+    /// The path chosen; nothing where the dialog was cancelled. Filters as Qt writes them.
+    std::function<std::optional<QString>(const QString& filtros)> arquivoParaAbrir;
+    std::function<std::optional<QString>(const QString& filtros, const QString& extensãoPadrão)>
+        arquivoParaSalvar;
+};
+
+/// Those in use, Qt's own to begin with.
+Dialogos& dialogos();
+/// Qt's message boxes and file dialogs, over the active window.
+Dialogos dialogosDoQt();
+
+/// Called before a box appears, so that the windows behind it show how things stand.
+inline std::function<void()> antesDeCadaDialogo;
+
+/// "Text files|*.TXT|All files|*.*" as Qt's "Text files (*.TXT *.txt);;All files (*)". Masks that a name
+/// holds already, in brackets at its end, are not written twice.
+QString filtrosDoQt(const QString& filtro);
+
+} // namespace varenta

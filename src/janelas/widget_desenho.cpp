@@ -1,0 +1,290 @@
+#include "janelas/widget_desenho.h"
+
+#include <QLabel>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QPainterPath>
+#include <QSvgRenderer>
+
+#include <algorithm>
+#include <cmath>
+#include <numbers>
+
+namespace {
+
+// The plot's ground: both the white light grid and the black heavy one are seen on it.
+constexpr QColor fundoDoGráfico{0xc9, 0xd1, 0xd8};
+constexpr QColor corDasEscalas{0x26, 0x2b, 0x30};
+constexpr int traçoDaEscala = 4;
+constexpr int folga = 4;
+
+QColor qcor(varenta::Cor cor) {
+    return QColor::fromRgb(static_cast<int>(cor & 0xff), static_cast<int>(cor >> 8 & 0xff),
+                           static_cast<int>(cor >> 16 & 0xff));
+}
+
+/// Paints strokes through the transformation from canvas units to pixels.
+class PintorDeTraços {
+  public:
+    PintorDeTraços(QPainter& pintor, const QTransform& transformação, double densidade)
+        : pintor_{pintor}, transformação_{transformação}, densidade_{densidade} {}
+
+    void operator()(const varenta::Linha& linha) const {
+        QPointF início = transformação_.map(QPointF{linha.x1, linha.y1});
+        QPointF fim = transformação_.map(QPointF{linha.x2, linha.y2});
+        if (linha.x1 == linha.x2) início.rx() = fim.rx() = noMeioDoPixel(início.x(), linha.largura);
+        if (linha.y1 == linha.y2) início.ry() = fim.ry() = noMeioDoPixel(início.y(), linha.largura);
+        const bool reta = linha.x1 == linha.x2 || linha.y1 == linha.y2;
+        pintor_.setPen(QPen{qcor(linha.cor), static_cast<double>(linha.largura), Qt::SolidLine,
+                            reta ? Qt::FlatCap : Qt::RoundCap});
+        pintor_.drawLine(início, fim);
+    }
+
+    void operator()(const varenta::CaixaCheia& caixa) const {
+        const QRectF lugar{transformação_.map(QPointF{caixa.x1, caixa.y1}),
+                           transformação_.map(QPointF{caixa.x2, caixa.y2})};
+        pintor_.setRenderHint(QPainter::Antialiasing, false);
+        pintor_.fillRect(lugar.normalized(), qcor(caixa.cor));
+        pintor_.setRenderHint(QPainter::Antialiasing, true);
+    }
+
+    void operator()(const varenta::Arco& arco) const {
+        constexpr double volta = 2 * std::numbers::pi;
+        const QRectF quadro = transformação_.mapRect(
+            QRectF{arco.cx - arco.raio, arco.cy - arco.raio, 2 * arco.raio, 2 * arco.raio});
+        const double início = std::abs(arco.início);
+        double giro = std::abs(arco.fim) - início;
+        if (giro <= 0) giro += volta;
+
+        pintor_.setPen(QPen{qcor(arco.cor), static_cast<double>(arco.largura), Qt::SolidLine, Qt::FlatCap,
+                            Qt::RoundJoin});
+        const bool inteiro = giro >= volta;
+        const bool raios = arco.início < 0 && arco.fim < 0;
+        if (arco.preenchido && (inteiro || raios)) pintor_.setBrush(qcor(arco.cor));
+
+        QPainterPath caminho;
+        caminho.arcMoveTo(quadro, graus(início));
+        if (arco.início < 0) {
+            const QPointF ponta = caminho.currentPosition();
+            caminho.moveTo(quadro.center());
+            caminho.lineTo(ponta);
+        }
+        caminho.arcTo(quadro, graus(início), graus(giro));
+        if (arco.fim < 0) caminho.lineTo(quadro.center());
+        pintor_.drawPath(caminho);
+        pintor_.setBrush(Qt::NoBrush);
+    }
+
+  private:
+    static double graus(double radianos) { return radianos * 180 / std::numbers::pi; }
+
+    /// Where a line along an axis covers whole pixels of the screen.
+    double noMeioDoPixel(double lugar, int largura) const {
+        const double físico = lugar * densidade_;
+        const bool ímpar = std::lround(largura * densidade_) % 2 != 0;
+        return (ímpar ? std::floor(físico) + 0.5 : std::round(físico)) / densidade_;
+    }
+
+    QPainter& pintor_;
+    const QTransform& transformação_;
+    double densidade_;
+};
+
+int maisLargo(const QFontMetrics& medidas, const QStringList& textos, const QString& usual) {
+    int maior = medidas.horizontalAdvance(usual);
+    for (const auto& texto : textos) maior = std::max(maior, medidas.horizontalAdvance(texto));
+    return maior;
+}
+
+} // namespace
+
+WidgetDesenho::WidgetDesenho(QWidget* pai) : QWidget{pai} {
+    setMouseTracking(true);
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+}
+
+void WidgetDesenho::mostrar(const varenta::Desenho& desenho) {
+    if (versão_ == desenho.versão) return;
+    versão_ = desenho.versão;
+    traços_ = desenho.traços;
+    imagem_ = {};
+    update();
+}
+
+void WidgetDesenho::escreverEscalas(const QStringList& x, const QStringList& y) {
+    if (x == escalaX_ && y == escalaY_) return;
+    escalaX_ = x;
+    escalaY_ = y;
+    imagem_ = {};
+    updateGeometry();
+    update();
+}
+
+QMargins WidgetDesenho::margensDoGráfico() const {
+    const auto medidas = fontMetrics();
+    const int números = maisLargo(medidas, escalaY_, QStringLiteral("00.0"));
+    const int metade = (maisLargo(medidas, escalaX_, QStringLiteral("-00.0")) + 1) / 2;
+    return {medidas.height() + números + traçoDaEscala + 3 * folga,
+            std::max(medidas.height() / 2 + folga, folga), metade + folga,
+            2 * medidas.height() + traçoDaEscala + 3 * folga};
+}
+
+QRect WidgetDesenho::quadroDosEixos() const {
+    const QRect quadro = rect().marginsRemoved(margensDoGráfico());
+    return {quadro.topLeft(), quadro.size().expandedTo({1, 1})};
+}
+
+QTransform WidgetDesenho::transformação() const {
+    QTransform t;
+    if (éGráfico()) {
+        const QRect quadro = quadroDosEixos();
+        t.translate(quadro.left(), quadro.top());
+        t.scale(quadro.width() / eixos_.width(), quadro.height() / eixos_.height());
+        t.translate(-eixos_.left(), -eixos_.top());
+        return t;
+    }
+    const double escala = std::min(width() / area_.width(), height() / area_.height());
+    t.translate(width() / 2.0, height() / 2.0);
+    t.scale(escala, escala);
+    t.translate(-area_.center().x(), -area_.center().y());
+    return t;
+}
+
+QSize WidgetDesenho::sizeHint() const {
+    const double altura = linhasDeAltura_ * fontMetrics().height();
+    const auto p = proporções();
+    return QSizeF{altura * p.width() / p.height(), altura}.toSize().expandedTo(minimumSizeHint());
+}
+
+QSize WidgetDesenho::minimumSizeHint() const {
+    const auto medidas = fontMetrics();
+    if (!éGráfico()) {
+        const double altura = linhasDeAltura_ * medidas.height() * 0.8;
+        return QSizeF{altura * area_.width() / area_.height(), altura}.toSize();
+    }
+    const auto margens = margensDoGráfico();
+    const auto x = maisLargo(medidas, escalaX_, QStringLiteral("-00.0")) + 2 * folga;
+    const auto nx = std::max<qsizetype>(escalaX_.size(), 1), ny = std::max<qsizetype>(escalaY_.size(), 1);
+    return {static_cast<int>(nx) * x + margens.left() + margens.right(),
+            static_cast<int>(ny) * (medidas.height() + 2 * folga) + margens.top() + margens.bottom()};
+}
+
+bool WidgetDesenho::event(QEvent* evento) {
+    switch (evento->type()) {
+    case QEvent::LayoutRequest:
+        ancorarFilhos();
+        break;
+    case QEvent::FontChange:
+    case QEvent::StyleChange:
+    case QEvent::PaletteChange:
+        imagem_ = {};
+        updateGeometry();
+        ancorarFilhos();
+        update();
+        break;
+    default:
+        break;
+    }
+    return QWidget::event(evento);
+}
+
+void WidgetDesenho::ancorarFilhos() {
+    for (auto* filho : findChildren<QLabel*>(Qt::FindDirectChildrenOnly)) {
+        const auto âncora = filho->property("ancora");
+        if (!âncora.isValid()) continue;
+        const QPoint ponto = transformação().map(âncora.toPointF()).toPoint();
+        const QSize tamanho = filho->sizeHint();
+        int esquerda = ponto.x() - tamanho.width() / 2;
+        if (filho->alignment() & Qt::AlignLeft) esquerda = ponto.x();
+        if (filho->alignment() & Qt::AlignRight) esquerda = ponto.x() - tamanho.width();
+        filho->setGeometry({{esquerda, ponto.y() - tamanho.height() / 2}, tamanho});
+    }
+}
+
+QPointF WidgetDesenho::emUnidades(QPointF ponto) const {
+    if (!éGráfico()) return transformação().inverted().map(ponto);
+    // Multiplied before it is divided, so that the pixels at the ends of the axes give the ends exactly.
+    const QRect quadro = quadroDosEixos();
+    return {eixos_.left() + (ponto.x() - quadro.left()) * eixos_.width() / quadro.width(),
+            eixos_.top() + (ponto.y() - quadro.top()) * eixos_.height() / quadro.height()};
+}
+
+void WidgetDesenho::resizeEvent(QResizeEvent*) { ancorarFilhos(); }
+
+void WidgetDesenho::mouseMoveEvent(QMouseEvent* evento) {
+    const QPointF ponto = emUnidades(evento->position());
+    emit mouseMovido(ponto.x(), ponto.y());
+}
+
+void WidgetDesenho::leaveEvent(QEvent*) { emit mouseSaiu(); }
+
+void WidgetDesenho::paintEvent(QPaintEvent*) {
+    const double densidade = devicePixelRatioF();
+    if (imagem_.size() != size() * densidade || imagem_.devicePixelRatio() != densidade) pintarImagem();
+    QPainter{this}.drawImage(0, 0, imagem_);
+}
+
+void WidgetDesenho::pintarImagem() {
+    const double densidade = devicePixelRatioF();
+    imagem_ = QImage{size() * densidade, QImage::Format_ARGB32_Premultiplied};
+    imagem_.setDevicePixelRatio(densidade);
+    imagem_.fill(Qt::transparent);
+    QPainter pintor{&imagem_};
+    pintor.setRenderHint(QPainter::Antialiasing);
+    pintor.setFont(font());
+    if (éGráfico()) pintarFundoDoGráfico(pintor);
+    if (!figura_.isEmpty()) QSvgRenderer{figura_}.render(&pintor, transformação().mapRect(area_));
+    pintor.save();
+    // A curve that leaves the scale leaves the picture there, and doesn't run over the captions.
+    if (éGráfico()) pintor.setClipRect(quadroDosEixos().adjusted(0, -1, 1, 2));
+    pintarTraços(pintor);
+    pintor.restore();
+    if (éGráfico()) pintarEscalas(pintor);
+}
+
+void WidgetDesenho::pintarFundoDoGráfico(QPainter& pintor) const {
+    pintor.fillRect(quadroDosEixos(), fundoDoGráfico);
+}
+
+void WidgetDesenho::pintarTraços(QPainter& pintor) const {
+    const auto t = transformação();
+    const PintorDeTraços pintar{pintor, t, devicePixelRatioF()};
+    for (const auto& traço : traços_) std::visit(pintar, traço);
+}
+
+void WidgetDesenho::pintarEscalas(QPainter& pintor) const {
+    const QRect quadro = quadroDosEixos();
+    const auto medidas = pintor.fontMetrics();
+    const int altura = medidas.height();
+    pintor.setPen(QPen{corDasEscalas, 1});
+    pintor.setRenderHint(QPainter::Antialiasing, false);
+    pintor.drawRect(quadro);
+
+    const auto lugar = [](int início, int comprimento, qsizetype k, qsizetype quantos) {
+        return início +
+               static_cast<int>(std::lround(static_cast<double>(comprimento) * static_cast<double>(k) /
+                                            static_cast<double>(std::max<qsizetype>(quantos - 1, 1))));
+    };
+    const int base = quadro.y() + quadro.height(), direita = quadro.x() + quadro.width();
+    for (qsizetype k = 0; k < escalaX_.size(); ++k) {
+        const int x = lugar(quadro.x(), quadro.width(), k, escalaX_.size());
+        const int largura = medidas.horizontalAdvance(escalaX_[k]);
+        pintor.drawLine(x, base, x, base + traçoDaEscala);
+        pintor.drawText(QRect{x - largura / 2, base + traçoDaEscala + folga / 2, largura + 1, altura},
+                        Qt::AlignCenter, escalaX_[k]);
+    }
+    for (qsizetype k = 0; k < escalaY_.size(); ++k) {
+        const int y = lugar(base, -quadro.height(), k, escalaY_.size());
+        pintor.drawLine(quadro.x() - traçoDaEscala, y, quadro.x(), y);
+        pintor.drawText(QRect{0, y - altura / 2, quadro.x() - traçoDaEscala - folga, altura},
+                        Qt::AlignRight | Qt::AlignVCenter, escalaY_[k]);
+    }
+    pintor.setRenderHint(QPainter::Antialiasing);
+    pintor.drawText(QRect{quadro.x(), height() - altura - folga / 2, direita - quadro.x(), altura},
+                    Qt::AlignCenter, tituloX_);
+    pintor.save();
+    pintor.translate(altura / 2 + folga / 2, quadro.center().y());
+    pintor.rotate(-90);
+    pintor.drawText(QRect{-height() / 2, -altura / 2, height(), altura}, Qt::AlignCenter, tituloY_);
+    pintor.restore();
+}

@@ -1,0 +1,82 @@
+#include "janelas/widget_tabela.h"
+
+#include <QAbstractButton>
+#include <QHeaderView>
+#include <QLabel>
+#include <QScrollBar>
+#include <QVBoxLayout>
+
+namespace {
+
+// Up to so many columns share the width there is; more of them are as wide as their texts, and scroll.
+constexpr int colunasQueRepartem = 6;
+
+} // namespace
+
+WidgetTabela::WidgetTabela(QWidget* pai) : QTableView{pai}, canto_{new QLabel} {
+    setEditTriggers(NoEditTriggers);
+    setTabKeyNavigation(false);
+    setAlternatingRowColors(true);
+    setWordWrap(false);
+    setVerticalScrollMode(ScrollPerPixel);
+    setHorizontalScrollMode(ScrollPerPixel);
+    verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    verticalHeader()->setDefaultAlignment(Qt::AlignCenter);
+    verticalHeader()->setHighlightSections(false);
+    horizontalHeader()->setHighlightSections(false);
+
+    // The corner holds the header of the column of row numbers.
+    canto_->setAlignment(Qt::AlignCenter);
+    canto_->setTextFormat(Qt::PlainText);
+    auto* botãoDoCanto = findChild<QAbstractButton*>(QString{}, Qt::FindDirectChildrenOnly);
+    auto* disposição = new QVBoxLayout{botãoDoCanto};
+    disposição->setContentsMargins({});
+    disposição->addWidget(canto_);
+}
+
+void WidgetTabela::mostrar(const varenta::Grade& grade) {
+    usar(modeloGrade_);
+    modeloGrade_.mostrar(grade);
+    canto_->setText(modeloGrade_.títuloDoCanto());
+    ajustarColunas();
+}
+
+void WidgetTabela::mostrar(const QList<QStringList>& colunas) {
+    modeloRotulos_.definirTítulos(títulos_);
+    usar(modeloRotulos_);
+    modeloRotulos_.mostrar(colunas);
+    ajustarColunas();
+}
+
+void WidgetTabela::esquecer() { modeloGrade_.esquecer(); }
+
+void WidgetTabela::usar(QAbstractItemModel& modelo) {
+    if (model() == &modelo) return;
+    setModel(&modelo);
+    verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 4);
+}
+
+void WidgetTabela::ajustarColunas() {
+    const auto modo =
+        model()->columnCount() <= colunasQueRepartem ? QHeaderView::Stretch : QHeaderView::ResizeToContents;
+    if (horizontalHeader()->sectionResizeMode(0) != modo) horizontalHeader()->setSectionResizeMode(modo);
+}
+
+int WidgetTabela::alturaPara(int linhas) const {
+    return horizontalHeader()->sizeHint().height() + linhas * (fontMetrics().height() + 4) + 2 * frameWidth();
+}
+
+int WidgetTabela::larguraDoConteúdo() const {
+    int largura =
+        verticalHeader()->sizeHint().width() + verticalScrollBar()->sizeHint().width() + 2 * frameWidth();
+    const int colunas = model() ? qMin(model()->columnCount(), colunasQueRepartem) : 0;
+    int maisLarga = 0;
+    for (int c = 0; c < colunas; ++c) maisLarga = qMax(maisLarga, horizontalHeader()->sectionSizeHint(c));
+    return largura + colunas * maisLarga;
+}
+
+QSize WidgetTabela::sizeHint() const { return {larguraDoConteúdo(), alturaPara(linhasVisiveis_)}; }
+
+QSize WidgetTabela::minimumSizeHint() const {
+    return {larguraDoConteúdo(), alturaPara(qMin(linhasVisiveis_, 4))};
+}
