@@ -1,0 +1,87 @@
+/// How long the wind model takes: at one point, over a field, in a whole transversal profile. Times are only
+/// good for ratios within one run; points per second and Newton passes per point say what was done.
+
+#include "aspersor/form1.h"
+#include "comum/operacoes.h"
+#include "shell/form3.h"
+#include "shell/sistema.h"
+#include "simulacao/form7.h"
+#include "simulacao/perfil_transversal.h"
+
+#include <benchmark/benchmark.h>
+
+#include <cmath>
+
+namespace {
+
+using namespace varenta;
+
+/// TX20, 38 mm, 60 m.c.a., 1.5 m, wind of 5 m/s from 60 degrees, default parameters, dry angles 60/60.
+DadosDaSimulação caso() {
+    iniciarSistema();
+    form3_TX20B_Click();
+    escolherItem(form1->Combo1, "38 mm");
+    escolherItem(form1->Combo2, "0 mm");
+    definirValor(form1->hsbPressão, 60);
+    form1_Command3_Click();
+    escolherItem(form7->Combo2, "1.5");
+    definirValor(form7->HScroll1, 60);
+    definirValor(form7->HScroll2, 50);
+    return lerSimulação();
+}
+
+void contar(benchmark::State& estado, const ContagemDoModelo& contagem) {
+    estado.counters["pontos/s"] =
+        benchmark::Counter(static_cast<double>(contagem.pontos), benchmark::Counter::kIsRate);
+    estado.counters["passes/ponto"] =
+        static_cast<double>(contagem.passes) / static_cast<double>(contagem.pontos);
+}
+
+void umPonto(benchmark::State& estado) {
+    const auto dados = caso();
+    ContagemDoModelo contagem;
+    for (auto _ : estado) {
+        const auto ponto = intensidadeEmPonto(-20.25, 12.75, dados.condições);
+        benchmark::DoNotOptimize(ponto.valor);
+        contagem.pontos += 1;
+        contagem.passes += static_cast<std::size_t>(ponto.passes);
+    }
+    contar(estado, contagem);
+}
+BENCHMARK(umPonto);
+
+void campoDePontos(benchmark::State& estado) {
+    const auto dados = caso();
+    const auto N = static_cast<std::size_t>(ladoDoCampo(dados));
+    const double borda = dados.S * (static_cast<double>(N) / 2 - 0.5);
+    const double cosseno = std::cos(dados.condições.rotVento), seno = std::sin(dados.condições.rotVento);
+    std::vector<double> X, Y, M(N * N);
+    for (std::size_t i = 0; i < N; ++i)
+        for (std::size_t j = 0; j < N; ++j) {
+            const double x = borda - static_cast<double>(i) * dados.S;
+            const double y = static_cast<double>(j) * dados.S - borda;
+            X.push_back(x * cosseno - y * seno);
+            Y.push_back(y * cosseno + x * seno);
+        }
+    ContagemDoModelo contagem;
+    for (auto _ : estado) {
+        intensidadesEmPontos(X, Y, dados.condições, M, contagem);
+        benchmark::DoNotOptimize(M.data());
+    }
+    contar(estado, contagem);
+    estado.counters["N"] = static_cast<double>(N);
+}
+BENCHMARK(campoDePontos)->Unit(benchmark::kMillisecond);
+
+void perfilTransversalInteiro(benchmark::State& estado) {
+    caso();
+    for (auto _ : estado) {
+        calcularPerfilTransversal();
+        benchmark::ClobberMemory();
+    }
+}
+BENCHMARK(perfilTransversalInteiro)->Unit(benchmark::kMillisecond);
+
+} // namespace
+
+BENCHMARK_MAIN();

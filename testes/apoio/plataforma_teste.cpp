@@ -1,0 +1,67 @@
+#include "apoio/plataforma_teste.h"
+
+#include "comum/plataforma.h"
+#include "shell/sistema.h"
+
+#include <gtest/gtest.h>
+
+namespace varenta::teste {
+
+std::vector<std::string> caderno;
+std::deque<bool> respostas;
+std::deque<std::optional<std::string>> arquivos;
+
+void recomeçar() {
+    iniciarSistema();
+    caderno.clear();
+    respostas.clear();
+    arquivos.clear();
+}
+
+namespace {
+
+void anotar(const char* tipo, std::string_view texto) {
+    caderno.push_back(std::string{tipo} + ": " + std::string{texto});
+}
+
+template <class Fila>
+typename Fila::value_type próxima(Fila& fila, std::string_view pergunta) {
+    if (fila.empty()) {
+        ADD_FAILURE() << "no answer for: " << pergunta;
+        return {};
+    }
+    auto resposta = fila.front();
+    fila.pop_front();
+    return resposta;
+}
+
+} // namespace
+} // namespace varenta::teste
+
+namespace varenta::plataforma {
+
+using namespace teste;
+
+void mensagem(std::string_view texto) { anotar("mensagem", texto); }
+
+bool perguntar(std::string_view texto) {
+    anotar("pergunta", texto);
+    return próxima(respostas, texto);
+}
+
+void avisar(std::string_view texto) { anotar("aviso", texto); }
+void erroDeExecucao(std::string_view texto) { anotar("erro", texto); }
+
+std::optional<std::string> arquivoParaAbrir(const DialogoArquivo& diálogo) {
+    anotar("abrir", diálogo.filtro);
+    return próxima(arquivos, diálogo.filtro);
+}
+
+std::optional<std::string> arquivoParaSalvar(const DialogoArquivo& diálogo) {
+    anotar("salvar", diálogo.filtro + " " + diálogo.extensãoPadrão);
+    return próxima(arquivos, diálogo.filtro);
+}
+
+void encerrar() { caderno.push_back("encerrar"); }
+
+} // namespace varenta::plataforma

@@ -1,0 +1,21 @@
+#pragma once
+
+#include <deque>
+#include <optional>
+#include <string>
+#include <vector>
+
+/// The notebook and the answers of the tests' platform. A question without an answer fails the test.
+namespace varenta::teste {
+
+/// Everything told to the person, in order: "mensagem: ...", "pergunta: ...", "aviso: ...", "erro: ...",
+/// "abrir: <filter>", "salvar: <filter> <ending>", "encerrar".
+extern std::vector<std::string> caderno;
+extern std::deque<bool> respostas;
+/// Paths for the next file dialogs; nothing is a cancelled dialog.
+extern std::deque<std::optional<std::string>> arquivos;
+
+/// A fresh system, an empty notebook, no answers.
+void recomeçar();
+
+} // namespace varenta::teste

@@ -1,0 +1,28 @@
+#include "comum/erro_execucao.h"
+
+#include "apoio/atalhos.h"
+
+#include <gtest/gtest.h>
+
+#include <array>
+#include <vector>
+
+namespace varenta {
+namespace {
+
+TEST(ElementoDeSequência, DáOElementoParaLerEEscrever) {
+    std::array<int, 3> sequência = {1, 2, 3};
+    elemento(sequência, 2) = 7;
+    EXPECT_EQ(sequência[2], 7);
+    EXPECT_EQ(elemento(sequência, 0), 1);
+}
+
+TEST(ElementoDeSequência, AcusaÍndiceForaDosLimites) {
+    std::array<int, 3> sequência = {1, 2, 3};
+    EXPECT_EQ(teste::erroDe([&] { elemento(sequência, 3); }), "Índice fora dos limites");
+    std::vector<int> vazia;
+    EXPECT_EQ(teste::erroDe([&] { elemento(vazia, 0); }), "Índice fora dos limites");
+}
+
+} // namespace
+} // namespace varenta

@@ -1,0 +1,194 @@
+#include "janelas/widget_desenho.h"
+
+#include <QImage>
+#include <QLabel>
+#include <QPixmap>
+
+#include <gtest/gtest.h>
+
+#include <numbers>
+
+namespace varenta::teste {
+namespace {
+
+constexpr double pi = std::numbers::pi;
+
+/// A picture of 100 x 100 units, 2 pixels a unit.
+class Figura : public testing::Test {
+  protected:
+    void SetUp() override {
+        widget.setProperty("area", QRectF{0, 0, 100, 100});
+        widget.resize(200, 200);
+    }
+
+    QImage pintar() {
+        widget.mostrar(desenho);
+        return widget.grab().toImage();
+    }
+
+    /// Whether something red stands within a pixel of a place given in units.
+    bool háTraço(const QImage& imagem, double x, double y) const {
+        for (int dy = -1; dy <= 1; ++dy)
+            for (int dx = -1; dx <= 1; ++dx) {
+                const auto cor =
+                    imagem.pixelColor(static_cast<int>(2 * x) + dx, static_cast<int>(2 * y) + dy);
+                if (cor.red() > 180 && cor.green() < 160) return true;
+            }
+        return false;
+    }
+
+    WidgetDesenho widget;
+    Desenho desenho;
+};
+
+TEST_F(Figura, linha_vai_de_ponta_a_ponta) {
+    desenho.linha(10, 20, 90, 60, cores::vermelho);
+    const auto imagem = pintar();
+    EXPECT_TRUE(háTraço(imagem, 10, 20));
+    EXPECT_TRUE(háTraço(imagem, 50, 40));
+    EXPECT_TRUE(háTraço(imagem, 89, 59.5));
+    EXPECT_FALSE(háTraço(imagem, 50, 20));
+}
+
+TEST_F(Figura, caixa_cheia_é_cheia_em_qualquer_ordem_dos_cantos) {
+    desenho.caixaCheia(40, 40, 20, 10, cores::vermelho);
+    const auto imagem = pintar();
+    EXPECT_TRUE(háTraço(imagem, 30, 25));
+    EXPECT_FALSE(háTraço(imagem, 45, 25));
+}
+
+TEST_F(Figura, arco_corre_ao_contrário_do_relógio_a_partir_da_direita) {
+    // From the right by way of the top to the left.
+    desenho.arco(50, 50, 30, cores::vermelho, 0, pi);
+    const auto imagem = pintar();
+    EXPECT_TRUE(háTraço(imagem, 50, 20));
+    EXPECT_FALSE(háTraço(imagem, 50, 80));
+    EXPECT_FALSE(háTraço(imagem, 65, 50));
+}
+
+TEST_F(Figura, arco_que_passa_do_zero_segue_adiante) {
+    // From the bottom by way of the right to the top.
+    desenho.arco(50, 50, 30, cores::vermelho, 1.5 * pi, 0.5 * pi);
+    const auto imagem = pintar();
+    EXPECT_TRUE(háTraço(imagem, 80, 50));
+    EXPECT_FALSE(háTraço(imagem, 20, 50));
+}
+
+TEST_F(Figura, ângulo_negativo_pede_o_raio_dessa_ponta) {
+    desenho.arco(50, 50, 30, cores::vermelho, -pi / 2, pi);
+    auto imagem = pintar();
+    EXPECT_TRUE(háTraço(imagem, 50, 35));
+    EXPECT_FALSE(háTraço(imagem, 35, 50));
+
+    desenho.limpar();
+    desenho.arco(50, 50, 30, cores::vermelho, pi / 2, -pi);
+    imagem = pintar();
+    EXPECT_FALSE(háTraço(imagem, 50, 35));
+    EXPECT_TRUE(háTraço(imagem, 35, 50));
+}
+
+TEST_F(Figura, pontas_iguais_fazem_a_volta_inteira) {
+    desenho.arco(50, 50, 30, cores::vermelho, -pi / 2, -pi / 2);
+    const auto imagem = pintar();
+    for (const auto& [x, y] : {std::pair{80, 50}, {50, 80}, {20, 50}, {50, 20}, {50, 35}})
+        EXPECT_TRUE(háTraço(imagem, x, y));
+}
+
+TEST_F(Figura, círculo_só_é_cheio_com_o_estilo_sólido) {
+    desenho.arco(50, 50, 30, cores::vermelho);
+    EXPECT_FALSE(háTraço(pintar(), 50, 50));
+    desenho.estiloPreenchimento(EstiloPreenchimento::sólido);
+    desenho.arco(50, 50, 30, cores::vermelho);
+    EXPECT_TRUE(háTraço(pintar(), 50, 50));
+}
+
+TEST_F(Figura, o_que_foi_limpo_some) {
+    desenho.linha(10, 10, 90, 10, cores::vermelho);
+    EXPECT_TRUE(háTraço(pintar(), 50, 10));
+    desenho.limpar();
+    EXPECT_FALSE(háTraço(pintar(), 50, 10));
+}
+
+TEST_F(Figura, guarda_as_proporções_e_fica_no_meio) {
+    widget.resize(400, 200);
+    EXPECT_EQ(widget.transformação().map(QPointF{0, 0}), QPointF(100, 0));
+    EXPECT_EQ(widget.transformação().map(QPointF{100, 100}), QPointF(300, 200));
+}
+
+TEST_F(Figura, filho_com_âncora_fica_em_seu_ponto_em_qualquer_tamanho) {
+    auto* centro = new QLabel{"meio", &widget};
+    centro->setAlignment(Qt::AlignCenter);
+    centro->setProperty("ancora", QPointF{50, 25});
+    auto* direita = new QLabel{"fim", &widget};
+    direita->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    direita->setProperty("ancora", QPointF{90, 75});
+    for (const int lado : {300, 500}) {
+        widget.resize(lado, lado);
+        pintar();
+        EXPECT_NEAR(centro->geometry().center().x(), lado / 2, 1);
+        EXPECT_NEAR(centro->geometry().center().y(), lado / 4, 1);
+        EXPECT_NEAR(direita->geometry().right(), lado * 9 / 10, 1);
+        EXPECT_EQ(direita->size(), direita->sizeHint());
+    }
+}
+
+class Grafico : public testing::Test {
+  protected:
+    void SetUp() override {
+        widget.setProperty("eixos", QRectF{68, 28, 280, 175});
+        widget.setProperty("tituloX", "Distância - d (m)");
+        widget.setProperty("tituloY", "Lâmina - I (mm)");
+        widget.resize(500, 300);
+        widget.escreverEscalas({"0.0", "5.0", "10.0"}, {"0", "1"});
+    }
+    WidgetDesenho widget;
+    Desenho desenho;
+};
+
+TEST_F(Grafico, leva_os_cantos_dos_eixos_ao_quadro) {
+    const QRect quadro = widget.quadroDosEixos();
+    const auto t = widget.transformação();
+    EXPECT_EQ(t.map(QPointF{68, 28}), QPointF{quadro.topLeft()});
+    EXPECT_EQ(t.map(QPointF{348, 203}), QPointF(quadro.x() + quadro.width(), quadro.y() + quadro.height()));
+    EXPECT_TRUE(widget.rect().contains(quadro));
+}
+
+TEST_F(Grafico, estica_com_a_janela_nas_duas_direções) {
+    const QRect antes = widget.quadroDosEixos();
+    widget.resize(700, 350);
+    EXPECT_EQ(widget.quadroDosEixos().size(), antes.size() + QSize(200, 50));
+}
+
+TEST_F(Grafico, escalas_mais_longas_deixam_menos_lugar_aos_eixos) {
+    const QRect antes = widget.quadroDosEixos();
+    widget.escreverEscalas({"0.0", "5.0", "10.0"}, {"0", "100000.0"});
+    EXPECT_LT(widget.quadroDosEixos().width(), antes.width());
+}
+
+TEST_F(Grafico, o_tamanho_mínimo_deixa_lugar_a_todas_as_legendas) {
+    QStringList muitas;
+    for (int k = 0; k < 30; ++k) muitas << "-100.0";
+    widget.escreverEscalas(muitas, {"0", "1"});
+    EXPECT_GE(widget.minimumSizeHint().width(), 30 * widget.fontMetrics().horizontalAdvance("-100.0"));
+}
+
+TEST_F(Grafico, a_curva_que_sai_da_escala_não_cobre_as_legendas) {
+    desenho.linha(200, 100, 200, 400, cores::vermelho);
+    widget.mostrar(desenho);
+    const auto imagem = widget.grab().toImage();
+    const int x = static_cast<int>(widget.transformação().map(QPointF{200, 100}).x());
+    const QRect quadro = widget.quadroDosEixos();
+    EXPECT_EQ(imagem.pixelColor(x, quadro.bottom() - 3), QColor(Qt::red));
+    for (int y = quadro.bottom() + 4; y < widget.height(); ++y)
+        EXPECT_NE(imagem.pixelColor(x, y), QColor(Qt::red));
+}
+
+TEST_F(Grafico, a_malha_clara_e_a_escura_se_distinguem_do_fundo) {
+    const auto imagem = widget.grab().toImage();
+    const int claridade = imagem.pixelColor(widget.quadroDosEixos().center()).lightness();
+    EXPECT_GT(255 - claridade, 40);
+    EXPECT_GT(claridade, 150);
+}
+
+} // namespace
+} // namespace varenta::teste

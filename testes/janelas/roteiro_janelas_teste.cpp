@@ -1,0 +1,120 @@
+#include "com_janelas.h"
+
+#include "janelas/roteiro_janelas.h"
+#include "roteiro/interprete.h"
+
+#include <QDir>
+#include <QImage>
+#include <QLabel>
+#include <QProcess>
+#include <QTemporaryDir>
+
+#include <fstream>
+#include <sstream>
+
+namespace varenta::teste {
+namespace {
+
+constexpr const char* percurso = R"(clicar Form3.TX30B
+mostrar form1
+mover form1.Picture1 2000 1000
+estado form1.Picture1
+foco
+clicar form1.Command3
+digitar Form7.Text1 abc
+clicar Form7.Command2
+responder não
+clicar Form7.Command1
+arrastar Form7.HScroll2 40
+rolar Form7.HScroll1 90
+foco
+clicar Form7.Command2
+mostrar Form7
+telas
+fechar Form7
+telas
+)";
+
+/// What the same text prints without windows over it.
+std::string semJanelas(const char* texto) {
+    std::ostringstream saída, erros;
+    EXPECT_EQ((Interprete{saída, erros}.executarTexto(texto, "caso.roteiro", ".")), 0) << erros.str();
+    return saída.str();
+}
+
+class RoteiroNasJanelas : public ComJanelas {
+  protected:
+    QString gravar(const char* texto) const {
+        const auto caminho = pasta.filePath("caso.roteiro");
+        std::ofstream{caminho.toStdString()} << texto;
+        return caminho;
+    }
+    QTemporaryDir pasta;
+};
+
+TEST_F(RoteiroNasJanelas, imprime_o_mesmo_que_sem_elas) {
+    const auto arquivo = gravar(percurso);
+    testing::internal::CaptureStdout();
+    const int desfecho = executarNasJanelas(*janelas, arquivo, {});
+    const auto saída = testing::internal::GetCapturedStdout();
+    EXPECT_EQ(desfecho, 0);
+    EXPECT_EQ(saída, semJanelas(percurso));
+    EXPECT_TRUE(caixas.empty());
+}
+
+TEST_F(RoteiroNasJanelas, salva_uma_imagem_a_cada_tela_mostrada) {
+    const auto imagens = pasta.filePath("a/b");
+    testing::internal::CaptureStdout();
+    EXPECT_EQ(executarNasJanelas(*janelas, gravar(percurso), imagens), 0);
+    testing::internal::GetCapturedStdout();
+    EXPECT_EQ(QDir{imagens}.entryList(QDir::Files), (QStringList{"01-form1.png", "02-Form7.png"}));
+    const QImage imagem{imagens + "/02-Form7.png"};
+    EXPECT_GT(imagem.width(), 800);
+    EXPECT_GT(imagem.height(), 500);
+}
+
+TEST_F(RoteiroNasJanelas, deixa_as_janelas_como_o_último_comando) {
+    testing::internal::CaptureStdout();
+    EXPECT_EQ(executarNasJanelas(*janelas, gravar("clicar Form3.TX15B\nrolar form1.hsbPressão 35\n"), {}), 0);
+    testing::internal::GetCapturedStdout();
+    EXPECT_TRUE(janela(form1).isVisible());
+    EXPECT_EQ(widget<QLabel>(form1, "lblPressão").text(), "35");
+}
+
+struct Término {
+    int código;
+    QString saída, erros;
+};
+
+Término varenta(const QStringList& argumentos) {
+    QProcess processo;
+    processo.start(PROGRAMA_VARENTA, argumentos);
+    EXPECT_TRUE(processo.waitForFinished(30000));
+    return {processo.exitCode(), QString::fromUtf8(processo.readAllStandardOutput()),
+            QString::fromUtf8(processo.readAllStandardError())};
+}
+
+TEST(Programa, com_opção_desconhecida_mostra_o_uso) {
+    for (const auto& argumentos :
+         {QStringList{"--outra"}, {"arquivo.roteiro"}, {"--roteiro"}, {"--imagens", "pasta"}}) {
+        const auto término = varenta(argumentos);
+        EXPECT_EQ(término.código, 2);
+        EXPECT_TRUE(término.erros.contains("Uso: varenta [--roteiro ARQUIVO [--imagens PASTA]]"));
+        EXPECT_EQ(término.saída, "");
+    }
+}
+
+TEST(Programa, com_roteiro_termina_com_o_desfecho_dele) {
+    QTemporaryDir pasta;
+    const auto caminho = pasta.filePath("caso.roteiro");
+    std::ofstream{caminho.toStdString()}
+        << "clicar Form3.TX20B\nmostrar form1.Caption\nclicar form1.Ausente\n";
+    const auto término = varenta({"--roteiro", caminho});
+    EXPECT_EQ(término.código, 2);
+    EXPECT_EQ(término.saída, "form1.Caption = Características Técnicas do Aspersor KELMO-TX 20\n");
+    EXPECT_TRUE(término.erros.contains(":3:"));
+    EXPECT_EQ(varenta({"--roteiro", pasta.filePath("não há")}).código, 1);
+}
+
+} // namespace
+} // namespace varenta::teste

@@ -1,0 +1,66 @@
+#include "roteiro/linha_de_comando.h"
+
+#include "apoio/pasta_temporaria.h"
+
+#include <gtest/gtest.h>
+
+#include <sstream>
+#include <string>
+#include <vector>
+
+namespace varenta::teste {
+namespace {
+
+struct Resultado {
+    int estado;
+    std::string saída, erros;
+};
+
+Resultado chamar(const std::vector<std::string>& argumentos, const std::string& entrada = {}) {
+    std::istringstream fluxo{entrada};
+    std::ostringstream saída, erros;
+    const int estado = executarLinhaDeComando(argumentos, fluxo, saída, erros);
+    return {estado, saída.str(), erros.str()};
+}
+
+TEST(LinhaDeComando, SemArquivoOuComOpçãoDesconhecidaMostraOUso) {
+    for (const std::vector<std::string>& argumentos :
+         {std::vector<std::string>{}, {"--progresso"}, {"--nada", "-"}, {"-x", "-"}, {"-", "--"}}) {
+        const auto r = chamar(argumentos, "telas\n");
+        EXPECT_EQ(r.estado, 2);
+        EXPECT_EQ(r.saída, "");
+        EXPECT_TRUE(r.erros.starts_with("uso: varenta-roteiro [--progresso] ARQUIVO…\n")) << r.erros;
+    }
+}
+
+TEST(LinhaDeComando, TraçoÉAEntradaPadrão) {
+    const auto r = chamar({"-"}, "telas\n");
+    EXPECT_EQ(r.estado, 0);
+    EXPECT_EQ(r.saída, "Form3: visível habilitada\n");
+    EXPECT_EQ(r.erros, "");
+}
+
+TEST(LinhaDeComando, AceitaProgresso) {
+    EXPECT_EQ(chamar({"--progresso", "-"}, "telas\n").saída, "Form3: visível habilitada\n");
+}
+
+TEST(LinhaDeComando, VáriosArquivosCorremTodosEOPiorEstadoVence) {
+    const PastaTemporaria pasta;
+    const auto bom = pasta.gravar("bom.roteiro", "clicar Form3.TX20B\ntelas\n");
+    const auto errado = pasta.gravar("errado.roteiro", "fazer\n");
+    const auto ausente = pasta.caminho("ausente.roteiro");
+    const std::string telas = "Form3: oculta desabilitada\nform1: visível habilitada\n";
+
+    EXPECT_EQ(chamar({bom, bom}).estado, 0);
+    EXPECT_EQ(chamar({bom, bom}).saída, telas + telas);
+    EXPECT_EQ(chamar({ausente, bom}).estado, 1);
+    EXPECT_EQ(chamar({ausente, bom}).saída, telas);
+    const auto r = chamar({errado, ausente, bom});
+    EXPECT_EQ(r.estado, 2);
+    EXPECT_EQ(r.saída, telas);
+    EXPECT_EQ(r.erros,
+              errado + ":1: comando desconhecido: fazer\n" + ausente + ": o arquivo ou a pasta não existe\n");
+}
+
+} // namespace
+} // namespace varenta::teste
