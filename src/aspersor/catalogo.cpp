@@ -120,6 +120,7 @@ double raio(const Tabela& tabela, int bocal, double pressao) {
 }
 
 double pressaoEfetiva(double k12, double k1, double k2, double pressao) {
+    if (k12 == 0) return 0;
     return std::pow(dividir(k12, k1 + k2), 2.0) * pressao;
 }
 

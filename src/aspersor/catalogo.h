@@ -20,7 +20,7 @@ double vazaoTX20(int bocalAuxiliar, int bocalPrincipal, double pressao);
 double vazaoTX30(int bocalPrincipal, double pressao);
 
 /// The pressure at which each of two jets acts that share one supply: (K12 / (K1 + K2))² x pressure. Without
-/// an auxiliary nozzle the pressure itself. Raises "Estouro" where neither nozzle is in the catalogue.
+/// an auxiliary nozzle the pressure itself.
 double pressaoEfetivaTX15(int bocalAuxiliar, int bocalPrincipal, double pressao);
 double pressaoEfetivaTX20(int bocalAuxiliar, int bocalPrincipal, double pressao);
 

@@ -30,11 +30,15 @@ void TelaBase::carregar() {
 
 void TelaBase::descarregar() {
     if (!carregada()) return;
+    esconder();
+    destruir();
+}
+
+void TelaBase::esconder() {
+    visivel = false;
     const auto todos = elementos();
     if (std::ranges::any_of(todos, [](const Elemento& e) { return e.endereço() == controleComFoco; }))
         controleComFoco = nullptr;
-    visivel = false;
-    destruir();
 }
 
 void TelaBase::mostrar() {

@@ -40,7 +40,8 @@ class TelaBase {
     void descarregar();
     /// Loads it if need be.
     void mostrar();
-    void esconder() { visivel = false; }
+    /// A hidden screen keeps what it holds, but not the focus.
+    void esconder();
 
     /// The text of the window's title bar. Only of a loaded screen.
     virtual const std::string& caption() const = 0;

@@ -32,6 +32,8 @@ Nome interpretarNome(const std::string& palavra) {
 }
 
 TelaBase& telaDe(const std::string& palavra) {
+    if (palavra.find('.') != std::string::npos)
+        throw ErroDeRoteiro{palavra + " é um controle: o comando pede uma tela"};
     auto* tela = telaDeNome(palavra);
     if (!tela) throw ErroDeRoteiro{"não há a tela " + entreAspas(palavra)};
     return *tela;
@@ -241,7 +243,7 @@ void Interprete::responder(const Palavras& palavras) {
 
 void Interprete::arquivo(const Palavras& palavras) {
     const auto& caminho = palavras[1];
-    if (!std::filesystem::path{caminho}.has_filename())
+    if (!caminho.empty() && !std::filesystem::path{caminho}.has_filename())
         throw ErroDeRoteiro{"o caminho não tem nome de arquivo"};
     std::optional<std::string> resposta;
     if (caminho != "cancelar") resposta = caminho;
@@ -305,7 +307,8 @@ std::optional<std::string> Interprete::arquivoParaAbrir() {
 
 std::optional<std::string> Interprete::arquivoParaSalvar(const plataforma::DialogoArquivo& diálogo) {
     auto caminho = tirarResposta(arquivos_, "o diálogo do arquivo para salvar");
-    if (caminho && !diálogo.extensãoPadrão.empty() && !std::filesystem::path{*caminho}.has_extension())
+    if (caminho && !caminho->empty() && !diálogo.extensãoPadrão.empty() &&
+        !std::filesystem::path{*caminho}.has_extension())
         *caminho += '.' + diálogo.extensãoPadrão;
     imprimir("arquivo para salvar: " + caminho.value_or("cancelado") + '\n');
     if (!caminho) return std::nullopt;

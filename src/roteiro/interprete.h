@@ -102,7 +102,9 @@ class Interprete {
     void acusar(std::string_view motivo);
     void avisarDeRespostasNãoUsadas();
     /// The path that a dialog gives back for an answer.
-    std::string caminhoCompleto(const std::string& caminho) const { return (pasta_ / caminho).string(); }
+    std::string caminhoCompleto(const std::string& caminho) const {
+        return caminho.empty() ? caminho : (pasta_ / caminho).string();
+    }
 
     std::ostream& saída_;
     std::ostream& erros_;

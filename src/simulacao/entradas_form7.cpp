@@ -1,5 +1,6 @@
 #include "simulacao/entradas_form7.h"
 
+#include "comum/erro_execucao.h"
 #include "comum/numeros.h"
 #include "comum/operacoes.h"
 #include "comum/plataforma.h"
@@ -15,9 +16,17 @@ bool velocidadeForaDaFaixa(const std::string& texto) {
     return v <= 0 || v > 300;
 }
 
-bool espaçamentoVálido() {
+bool éEspaçamento(const std::string& texto) {
     constexpr std::array espaçamentos = {1.5, 2.0, 3.0, 6.0};
-    if (std::ranges::count(espaçamentos, lerPrefixo(form7->Combo2.texto)) > 0) return true;
+    try {
+        return std::ranges::count(espaçamentos, lerPrefixo(texto)) > 0;
+    } catch (const ErroExecucao&) {
+        return false; // past the largest double, it is none of them
+    }
+}
+
+bool espaçamentoVálido() {
+    if (éEspaçamento(form7->Combo2.texto)) return true;
     plataforma::mensagem("O valor de espaçamento entre coletores deve ser 1.5 m, 2.0 m, 3.0 m ou 6.0 m!");
     escolherItem(form7->Combo2, 1);
     return false;

@@ -119,7 +119,7 @@ IntensidadeNoPonto avaliar(double x0, double y0, const Senos& senos, const Condi
     const double s2 = senos.s2;
     const auto [x, y, passes, convergiu] = resolver(x0, y0, s2, c);
     IntensidadeNoPonto ponto{0, passes, convergiu, true};
-    const double r = std::sqrt(x * x + y * y);
+    const double r = std::sqrt(finito(x * x + y * y));
     if (r >= c.R) return ponto;
     const double xs = x * senos.cosseno + y * senos.seno;
     const double ys = y * senos.cosseno - x * senos.seno;

@@ -93,6 +93,9 @@ TEST(Catalogo, CombinaçãoForaDoCatálogoDáZero) {
     EXPECT_EQ(coefVazaoTX15(4, 18), 0);
     EXPECT_EQ(coefVazaoTX15(6, 38), 0);
     EXPECT_EQ(coefVazaoTX20(6, 14), 0);
+    EXPECT_EQ(pressaoEfetivaTX15(0, 0, 50), 0);
+    EXPECT_EQ(pressaoEfetivaTX15(6, 38, 50), 0);
+    EXPECT_EQ(pressaoEfetivaTX20(4, 99, 50), 0);
     EXPECT_EQ(vazaoTX15(6, 30, 50), 0);
     EXPECT_EQ(vazaoTX20(8, 28, 50), 0);
     EXPECT_EQ(vazaoTX30(32, 50), 0);

@@ -87,6 +87,13 @@ TEST_F(TelaSobDemanda, PerdeOFocoAoSerDescarregada) {
     EXPECT_EQ(controleComFoco, nullptr);
 }
 
+TEST_F(TelaSobDemanda, PerdeOFocoAoSerEscondida) {
+    telaDeTeste.mostrar();
+    focar(telaDeTeste->rótulo);
+    telaDeTeste.esconder();
+    EXPECT_EQ(controleComFoco, nullptr);
+}
+
 TEST_F(TelaSobDemanda, DescarregadaDeixaOFocoDeOutraTela) {
     focar(form3->TX15B);
     telaDeTeste.descarregar();

@@ -177,7 +177,8 @@ TEST_F(InterpreteRecusa, NomesQueNãoExistem) {
     EXPECT_EQ(erroDe("clicar Tela9.botão"), "caso.roteiro:1: não há a tela \"Tela9\"\n");
     EXPECT_EQ(erroDe("mostrar Tela9"), "caso.roteiro:1: não há a tela \"Tela9\"\n");
     EXPECT_EQ(erroDe("mostrar bancada.caixa"), "caso.roteiro:1: não há a tela \"bancada\"\n");
-    EXPECT_EQ(erroDe("fechar Bancada.caixa"), "caso.roteiro:1: não há a tela \"Bancada.caixa\"\n");
+    EXPECT_EQ(erroDe("fechar Bancada.caixa"),
+              "caso.roteiro:1: Bancada.caixa é um controle: o comando pede uma tela\n");
     EXPECT_EQ(erroDe("mostrar Bancada.Caixa"), "caso.roteiro:1: Bancada não tem o controle \"Caixa\"\n");
     EXPECT_EQ(erroDe("clicar Bancada.botao"), "caso.roteiro:1: Bancada não tem o controle \"botao\"\n");
     EXPECT_EQ(erroDe("mostrar Bancada."), "caso.roteiro:1: Bancada não tem o controle \"\"\n");
@@ -337,7 +338,6 @@ TEST_F(InterpreteRespostas, DiálogoDeArquivoSemRespostaÉErro) {
 }
 
 TEST_F(InterpreteRespostas, CaminhoSemNomeDeArquivoÉErro) {
-    EXPECT_EQ(erroDe("arquivo \"\""), "caso.roteiro:1: o caminho não tem nome de arquivo\n");
     EXPECT_EQ(erroDe("arquivo dados/"), "caso.roteiro:1: o caminho não tem nome de arquivo\n");
 }
 

@@ -38,6 +38,7 @@ TEST_F(EntradasDaSimulação, EspaçamentoDigitadoComo2Passa) {
 
 TEST_F(EntradasDaSimulação, Espaçamento2_5NãoPassaEVaiPara2_0) {
     EXPECT_EQ(com("Combo2", "2.5"), Textos{espaçamentoInválido});
+    EXPECT_EQ(com("Combo2", "1e400"), Textos{espaçamentoInválido});
     EXPECT_EQ(form7->Combo2.texto, "2.0");
     EXPECT_FALSE(form7->cmdUniformidade.habilitado);
     for (const char* texto : {"", "abc", "0", "-2", "1.51", "1,5"}) {
