@@ -173,7 +173,7 @@ void desenharPerfilRadial(const SeleçãoDeAspersor& tela, const Avaliação& av
     desenho.larguraTraco(1);
     desenharMalha(desenho, malha);
     desenho.larguraTraco(2);
-    desenharCurva(desenho, curva.amostras.size(), [&](std::size_t n) {
+    desenharCurva(desenho, cores::azul, curva.amostras.size(), [&](std::size_t n) {
         const auto& amostra = curva.amostras[n];
         const double x = malha.esquerda + dividir(malha.largura() * (amostra.x * avaliação.R), escalaR);
         const double y = malha.base - dividir(malha.altura() * (amostra.y * avaliação.Imedia), escalaI);

@@ -28,13 +28,13 @@ void desenharMalha(Desenho& desenho, const MalhaDeGráfico& malha) {
     desenharHorizontais(desenho, malha, malha.grossasHorizontais, cores::preto);
 }
 
-void desenharCurva(Desenho& desenho, std::size_t quantos,
+void desenharCurva(Desenho& desenho, Cor cor, std::size_t quantos,
                    const std::function<PontoDoDesenho(std::size_t)>& ponto) {
     if (quantos < 2) return;
     auto de = ponto(0);
     for (std::size_t n = 1; n < quantos; ++n) {
         const auto até = ponto(n);
-        desenho.linha(de.x, de.y, até.x, até.y, cores::azul);
+        desenho.linha(de.x, de.y, até.x, até.y, cor);
         de = até;
     }
 }

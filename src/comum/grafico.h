@@ -35,9 +35,9 @@ struct PontoDoDesenho {
     double x, y;
 };
 
-/// Joins `quantos` points by straight segments in blue, with the pen's present width. Each point is computed
-/// once and in order, so that the first that can't be placed ends the drawing.
-void desenharCurva(Desenho& desenho, std::size_t quantos,
+/// Joins `quantos` points by straight segments, with the pen's present width. Each point is computed once and
+/// in order, so that the first that can't be placed ends the drawing.
+void desenharCurva(Desenho& desenho, Cor cor, std::size_t quantos,
                    const std::function<PontoDoDesenho(std::size_t)>& ponto);
 
 /// Writes tick captions: `origem` + `passo` x k for k from 0, in the format `padrão`. Returns the last

@@ -8,7 +8,10 @@
 
 #include <algorithm>
 #include <cmath>
+#include <functional>
 #include <numbers>
+#include <utility>
+#include <vector>
 
 namespace {
 
@@ -17,27 +20,60 @@ constexpr QColor fundoDoGráfico{0xc9, 0xd1, 0xd8};
 constexpr QColor corDasEscalas{0x26, 0x2b, 0x30};
 constexpr int traçoDaEscala = 4;
 constexpr int folga = 4;
+constexpr int amostraDaLegenda = 26;
+constexpr int entreCurvas = 18;
 
 QColor qcor(varenta::Cor cor) {
     return QColor::fromRgb(static_cast<int>(cor & 0xff), static_cast<int>(cor >> 8 & 0xff),
                            static_cast<int>(cor >> 16 & 0xff));
 }
 
+/// A curve as the legend names it.
+struct Curva {
+    QString nome;
+    QColor cor;
+    Qt::PenStyle estilo;
+};
+
+Curva lerCurva(const QString& texto) {
+    const auto estilo = texto.section(QLatin1Char{':'}, 1);
+    return {texto.section(QLatin1Char{'='}, 0, 0),
+            QColor{texto.section(QLatin1Char{'='}, 1).section(QLatin1Char{':'}, 0, 0)},
+            estilo == QLatin1String{"tracejado"}    ? Qt::DashLine
+            : estilo == QLatin1String{"pontilhado"} ? Qt::DotLine
+                                                    : Qt::SolidLine};
+}
+
+std::vector<Curva> lerCurvas(const QStringList& legenda) {
+    std::vector<Curva> curvas;
+    for (const auto& texto : legenda) curvas.push_back(lerCurva(texto));
+    return curvas;
+}
+
 /// Paints strokes through the transformation from canvas units to pixels.
 class PintorDeTraços {
   public:
-    PintorDeTraços(QPainter& pintor, const QTransform& transformação, double densidade)
-        : pintor_{pintor}, transformação_{transformação}, densidade_{densidade} {}
+    PintorDeTraços(QPainter& pintor, const QTransform& transformação, double densidade,
+                   std::vector<Curva> curvas)
+        : pintor_{pintor}, transformação_{transformação}, densidade_{densidade}, curvas_{std::move(curvas)} {}
 
-    void operator()(const varenta::Linha& linha) const {
+    void operator()(const varenta::Linha& linha) {
         QPointF início = transformação_.map(QPointF{linha.x1, linha.y1});
         QPointF fim = transformação_.map(QPointF{linha.x2, linha.y2});
         if (linha.x1 == linha.x2) início.rx() = fim.rx() = noMeioDoPixel(início.x(), linha.largura);
         if (linha.y1 == linha.y2) início.ry() = fim.ry() = noMeioDoPixel(início.y(), linha.largura);
         const bool reta = linha.x1 == linha.x2 || linha.y1 == linha.y2;
-        pintor_.setPen(QPen{qcor(linha.cor), static_cast<double>(linha.largura), Qt::SolidLine,
-                            reta ? Qt::FlatCap : Qt::RoundCap});
+        const auto estilo = estiloDe(linha.cor);
+        const bool inteira = estilo == Qt::SolidLine;
+        QPen pena{qcor(linha.cor), static_cast<double>(linha.largura), estilo,
+                  reta || !inteira ? Qt::FlatCap : Qt::RoundCap};
+        if (!inteira) pena.setDashOffset(QPointF{linha.x1, linha.y1} == fimDoTracejado_ ? tracejado_ : 0);
+        pintor_.setPen(pena);
         pintor_.drawLine(início, fim);
+        if (inteira) return;
+        // The dashes of the next segment go on from here.
+        tracejado_ = pena.dashOffset() + QLineF{início, fim}.length() / linha.largura;
+        fimDoTracejado_ = QPointF{linha.x2, linha.y2};
     }
 
     void operator()(const varenta::CaixaCheia& caixa) const {
@@ -50,8 +86,10 @@ class PintorDeTraços {
 
     void operator()(const varenta::Arco& arco) const {
         constexpr double volta = 2 * std::numbers::pi;
-        const QRectF quadro = transformação_.mapRect(
-            QRectF{arco.cx - arco.raio, arco.cy - arco.raio, 2 * arco.raio, 2 * arco.raio});
+        // Round in a chart too, which is stretched.
+        const double raio = arco.raio * std::sqrt(transformação_.m11() * transformação_.m22());
+        const QPointF centro = transformação_.map(QPointF{arco.cx, arco.cy});
+        const QRectF quadro{centro - QPointF{raio, raio}, QSizeF{2 * raio, 2 * raio}};
         const double início = std::abs(arco.início);
         double giro = std::abs(arco.fim) - início;
         if (giro <= 0) giro += volta;
@@ -85,9 +123,17 @@ class PintorDeTraços {
         return (ímpar ? std::floor(físico) + 0.5 : std::round(físico)) / densidade_;
     }
 
+    Qt::PenStyle estiloDe(varenta::Cor cor) const {
+        const auto curva = std::ranges::find(curvas_, qcor(cor), &Curva::cor);
+        return curva == curvas_.end() ? Qt::SolidLine : curva->estilo;
+    }
+
     QPainter& pintor_;
     const QTransform& transformação_;
     double densidade_;
+    std::vector<Curva> curvas_;
+    double tracejado_ = 0;
+    std::optional<QPointF> fimDoTracejado_;
 };
 
 int maisLargo(const QFontMetrics& medidas, const QStringList& textos, const QString& usual) {
@@ -112,9 +158,10 @@ void WidgetDesenho::mostrar(const varenta::Desenho& desenho) {
 }
 
 void WidgetDesenho::escreverEscalas(const QStringList& x, const QStringList& y) {
-    if (x == escalaX_ && y == escalaY_) return;
+    const auto& vertical = rotulosYFixos_.isEmpty() ? y : rotulosYFixos_;
+    if (x == escalaX_ && vertical == escalaY_) return;
     escalaX_ = x;
-    escalaY_ = y;
+    escalaY_ = vertical;
     imagem_ = {};
     updateGeometry();
     update();
@@ -125,8 +172,16 @@ QMargins WidgetDesenho::margensDoGráfico() const {
     const int números = maisLargo(medidas, escalaY_, QStringLiteral("00.0"));
     const int metade = (maisLargo(medidas, escalaX_, QStringLiteral("-00.0")) + 1) / 2;
     return {medidas.height() + números + traçoDaEscala + 3 * folga,
-            std::max(medidas.height() / 2 + folga, folga), metade + folga,
-            2 * medidas.height() + traçoDaEscala + 3 * folga};
+            medidas.height() / 2 + folga + (legenda_.isEmpty() ? 0 : medidas.height() + folga),
+            metade + folga, 2 * medidas.height() + traçoDaEscala + 3 * folga};
+}
+
+int WidgetDesenho::larguraDaLegenda() const {
+    int largura = 0;
+    for (const auto& curva : lerCurvas(legenda_))
+        largura += (largura ? entreCurvas : 0) + amostraDaLegenda + folga +
+                   fontMetrics().horizontalAdvance(curva.nome);
+    return largura;
 }
 
 QRect WidgetDesenho::quadroDosEixos() const {
@@ -165,7 +220,7 @@ QSize WidgetDesenho::minimumSizeHint() const {
     const auto margens = margensDoGráfico();
     const auto x = maisLargo(medidas, escalaX_, QStringLiteral("-00.0")) + 2 * folga;
     const auto nx = std::max<qsizetype>(escalaX_.size(), 1), ny = std::max<qsizetype>(escalaY_.size(), 1);
-    return {static_cast<int>(nx) * x + margens.left() + margens.right(),
+    return {std::max(static_cast<int>(nx) * x, larguraDaLegenda()) + margens.left() + margens.right(),
             static_cast<int>(ny) * (medidas.height() + 2 * folga) + margens.top() + margens.bottom()};
 }
 
@@ -240,6 +295,7 @@ void WidgetDesenho::pintarImagem() {
     pintarTraços(pintor);
     pintor.restore();
     if (éGráfico()) pintarEscalas(pintor);
+    if (éGráfico()) pintarLegenda(pintor);
 }
 
 void WidgetDesenho::pintarFundoDoGráfico(QPainter& pintor) const {
@@ -248,8 +304,8 @@ void WidgetDesenho::pintarFundoDoGráfico(QPainter& pintor) const {
 
 void WidgetDesenho::pintarTraços(QPainter& pintor) const {
     const auto t = transformação();
-    const PintorDeTraços pintar{pintor, t, devicePixelRatioF()};
-    for (const auto& traço : traços_) std::visit(pintar, traço);
+    PintorDeTraços pintar{pintor, t, devicePixelRatioF(), lerCurvas(legenda_)};
+    for (const auto& traço : traços_) std::visit(std::ref(pintar), traço);
 }
 
 void WidgetDesenho::pintarEscalas(QPainter& pintor) const {
@@ -287,4 +343,21 @@ void WidgetDesenho::pintarEscalas(QPainter& pintor) const {
     pintor.rotate(-90);
     pintor.drawText(QRect{-height() / 2, -altura / 2, height(), altura}, Qt::AlignCenter, tituloY_);
     pintor.restore();
+}
+
+void WidgetDesenho::pintarLegenda(QPainter& pintor) const {
+    const QRect quadro = quadroDosEixos();
+    const auto medidas = pintor.fontMetrics();
+    int x = quadro.x() + (quadro.width() - larguraDaLegenda()) / 2;
+    const int y = folga / 2;
+    for (const auto& curva : lerCurvas(legenda_)) {
+        pintor.setPen(QPen{curva.cor, 2, curva.estilo, Qt::FlatCap});
+        const double meio = y + std::floor(medidas.height() / 2.0);
+        pintor.drawLine(QPointF(x, meio), QPointF(x + amostraDaLegenda, meio));
+        x += amostraDaLegenda + folga;
+        const int largura = medidas.horizontalAdvance(curva.nome);
+        pintor.setPen(corDasEscalas);
+        pintor.drawText(QRect{x, y, largura + 1, medidas.height()}, Qt::AlignVCenter, curva.nome);
+        x += largura + entreCurvas;
+    }
 }

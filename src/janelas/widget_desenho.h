@@ -29,8 +29,13 @@ class WidgetDesenho : public QWidget {
     /// Names of the control arrays that hold the tick captions, equally spaced from one end to the other.
     Q_PROPERTY(QString rotulosX MEMBER rotulosX_)
     Q_PROPERTY(QString rotulosY MEMBER rotulosY_)
+    /// The tick captions of a vertical axis that no control array holds.
+    Q_PROPERTY(QStringList rotulosYFixos MEMBER rotulosYFixos_)
     Q_PROPERTY(QString tituloX MEMBER tituloX_)
     Q_PROPERTY(QString tituloY MEMBER tituloY_)
+    /// The curves that are named above the plot, as `name=#rrggbb`. With `:tracejado` or `:pontilhado` after
+    /// it, lines of that colour are dashed or dotted, in the plot too.
+    Q_PROPERTY(QStringList legenda MEMBER legenda_)
     /// The height that it would like, in lines of text.
     Q_PROPERTY(int linhasDeAltura MEMBER linhasDeAltura_)
 
@@ -68,16 +73,19 @@ class WidgetDesenho : public QWidget {
   private:
     bool éGráfico() const { return !eixos_.isEmpty(); }
     QMargins margensDoGráfico() const;
+    int larguraDaLegenda() const;
     QPointF emUnidades(QPointF ponto) const;
     QSizeF proporções() const { return éGráfico() ? eixos_.size() : area_.size(); }
     void ancorarFilhos();
     void pintarImagem();
     void pintarFundoDoGráfico(QPainter& pintor) const;
     void pintarEscalas(QPainter& pintor) const;
+    void pintarLegenda(QPainter& pintor) const;
     void pintarTraços(QPainter& pintor) const;
 
     QRectF area_, eixos_;
     QString figura_, rotulosX_, rotulosY_, tituloX_, tituloY_;
+    QStringList rotulosYFixos_, legenda_;
     int linhasDeAltura_ = 20;
 
     std::vector<varenta::Traço> traços_;

@@ -10,6 +10,7 @@ namespace {
 
 // Up to so many columns share the width there is; more of them are as wide as their texts, and scroll.
 constexpr int colunasQueRepartem = 6;
+constexpr int folgaDoCanto = 4;
 
 } // namespace
 
@@ -38,6 +39,7 @@ void WidgetTabela::mostrar(const varenta::Grade& grade) {
     usar(modeloGrade_);
     modeloGrade_.mostrar(grade);
     canto_->setText(modeloGrade_.títuloDoCanto());
+    verticalHeader()->setMinimumWidth(canto_->sizeHint().width() + 2 * folgaDoCanto);
     ajustarColunas();
 }
 
@@ -67,8 +69,8 @@ int WidgetTabela::alturaPara(int linhas) const {
 }
 
 int WidgetTabela::larguraDoConteúdo() const {
-    int largura =
-        verticalHeader()->sizeHint().width() + verticalScrollBar()->sizeHint().width() + 2 * frameWidth();
+    const int lateral = qMax(verticalHeader()->sizeHint().width(), verticalHeader()->minimumWidth());
+    const int largura = lateral + verticalScrollBar()->sizeHint().width() + 2 * frameWidth();
     const int colunas = model() ? qMin(model()->columnCount(), colunasQueRepartem) : 0;
     int maisLarga = 0;
     for (int c = 0; c < colunas; ++c) maisLarga = qMax(maisLarga, horizontalHeader()->sectionSizeHint(c));

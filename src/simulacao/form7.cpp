@@ -7,9 +7,7 @@
 #include "comum/plataforma.h"
 #include "simulacao/arquivo_parametros.h"
 #include "simulacao/diagrama.h"
-#include "simulacao/entradas_form7.h"
 #include "simulacao/grafico_perfil_transversal.h"
-#include "simulacao/perfil_transversal.h"
 
 namespace varenta {
 namespace {
@@ -111,14 +109,6 @@ void form7_Command1_Click() {
     const auto caminho = plataforma::arquivoParaAbrir({.filtro = "Arquivos Texto (*.TXT)|*.TXT"});
     if (!caminho || caminho->empty()) return;
     lerArquivoDeParametros(*caminho);
-}
-
-void form7_Command2_Click() {
-    if (!entradasDaSimulaçãoVálidas()) return;
-    calcularPerfilTransversal();
-    form7->cmdUniformidade.habilitado = true;
-    form7->Command3.habilitado = true;
-    marcar(form1, form1->optMCA);
 }
 
 void form7_Command4_Click() { voltarDe(form1); }

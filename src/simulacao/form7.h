@@ -16,8 +16,9 @@ void form7_HScroll3_Change();
 void form7_HScroll4_Change();
 void form7_HScroll5_Change();
 void form7_Command1_Click();
-void form7_Command2_Click();
+void form7_Command2_Click(); // stands in uniformidade/, whose screens it writes
 void form7_Command4_Click();
+void form7_cmdUniformidade_Click(); // stands in uniformidade/
 void form7_cmdSair_Click();
 void form7_Picture2_MouseMove(double x, double y);
 
@@ -107,7 +108,8 @@ struct RegistroForm7 {
     Botao Command7{.texto = "&Gráfico Intensidades", .habilitado = false};
     Botao Command4{.texto = "<< &Voltar", .aoClicar = form7_Command4_Click};
     Botao Command6{.texto = "<< &Voltar"};
-    Botao cmdUniformidade{.texto = "&Avançar >>", .habilitado = false};
+    Botao cmdUniformidade{
+        .texto = "&Avançar >>", .aoClicar = form7_cmdUniformidade_Click, .habilitado = false};
     Botao Command9{.texto = "&Avançar >>", .habilitado = false};
     Botao Command5{.texto = "Ajuda"};
     Botao cmdSair{.texto = "&Fechar", .aoClicar = form7_cmdSair_Click};

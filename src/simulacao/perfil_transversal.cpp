@@ -136,7 +136,7 @@ void desenharGráfico(const PerfilTransversal& perfil, double S) {
     desenharMalha(desenho, malha);
     desenho.larguraTraco(2);
     const double largura = 2 * S * metade, topo = 5 * passo;
-    desenharCurva(desenho, N, [&](std::size_t i) {
+    desenharCurva(desenho, cores::azul, N, [&](std::size_t i) {
         const double t = perfil.Dist[i] - perfil.Dist[0];
         const double x = malha.esquerda + dividir(malha.largura() * t, largura);
         const double y = malha.base - dividir(perfil.Lam[i] * malha.altura(), topo);

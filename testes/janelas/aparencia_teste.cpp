@@ -18,10 +18,18 @@ class Aparência : public ComJanelas {
         ComJanelas::SetUp();
         clicarMenu("TX20B");
         clicar(form1, "Command3");
+        clicar(form7, "Command2");
+        clicar(form7, "cmdUniformidade");
+        clicar(form4, "Command8");
+        clicar(form4, "Command9");
+        form7.mostrar();
+        janelas->atualizar();
     }
 
     /// All windows of the road, in the state that they have on it.
-    std::vector<QWidget*> todas() const { return {&janela(form3), &janela(form1), &janela(form7)}; }
+    std::vector<QWidget*> todas() const {
+        return {&janela(form3), &janela(form1), &janela(form7), &janela(form4)};
+    }
 
     static bool éParte(const QWidget* widget) {
         return widget->objectName().isEmpty() || widget->objectName().startsWith("qt_");
@@ -39,7 +47,9 @@ TEST_F(Aparência, cada_janela_cabe_em_1366_por_768) {
 
 TEST_F(Aparência, nenhum_rótulo_ou_botão_é_mais_estreito_que_seu_texto) {
     form7->lblAviso.texto = "Aviso";
-    for (auto* tela : {static_cast<TelaBase*>(&form1), static_cast<TelaBase*>(&form7)}) tela->mostrar();
+    for (auto* tela :
+         {static_cast<TelaBase*>(&form1), static_cast<TelaBase*>(&form7), static_cast<TelaBase*>(&form4)})
+        tela->mostrar();
     janelas->atualizar();
     for (const auto* janela : todas())
         for (const auto* widget : janela->findChildren<QWidget*>()) {
@@ -71,9 +81,11 @@ TEST_F(Aparência, nenhum_controle_cobre_outro) {
 }
 
 TEST_F(Aparência, a_tecla_Tab_chega_a_todos_os_controles_e_volta) {
-    for (auto* tela : {static_cast<TelaBase*>(&form1), static_cast<TelaBase*>(&form7)}) {
+    for (auto* tela :
+         {static_cast<TelaBase*>(&form1), static_cast<TelaBase*>(&form7), static_cast<TelaBase*>(&form4)}) {
         form7.visivel = tela == &form7;
         form1.visivel = tela == &form1;
+        form4.visivel = tela == &form4;
         janelas->atualizar();
         auto& janelaDaTela = janela(*tela);
         ASSERT_TRUE(QTest::qWaitForWindowActive(&janelaDaTela));
@@ -117,7 +129,8 @@ TEST_F(Aparência, o_foco_da_pessoa_é_o_da_tela) {
 }
 
 TEST_F(Aparência, botões_sem_ação_ficam_desabilitados) {
-    for (auto* tela : {static_cast<TelaBase*>(&form1), static_cast<TelaBase*>(&form7)})
+    for (auto* tela :
+         {static_cast<TelaBase*>(&form1), static_cast<TelaBase*>(&form7), static_cast<TelaBase*>(&form4)})
         for (const auto& elemento : tela->elementos())
             if (auto* const* botão = std::get_if<Botao*>(&elemento.controle); botão && !(*botão)->aoClicar) {
                 (*botão)->habilitado = true;

@@ -6,6 +6,7 @@
 #include "shell/form3.h"
 #include "shell/sistema.h"
 #include "simulacao/form7.h"
+#include "uniformidade/form4.h"
 
 #include <QAction>
 #include <QApplication>

@@ -6,6 +6,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <numbers>
 
 namespace varenta::teste {
@@ -181,6 +182,76 @@ TEST_F(Grafico, a_curva_que_sai_da_escala_não_cobre_as_legendas) {
     EXPECT_EQ(imagem.pixelColor(x, quadro.bottom() - 3), QColor(Qt::red));
     for (int y = quadro.bottom() + 4; y < widget.height(); ++y)
         EXPECT_NE(imagem.pixelColor(x, y), QColor(Qt::red));
+}
+
+TEST_F(Grafico, rótulos_fixos_ficam_no_lugar_dos_da_escala_vertical) {
+    widget.setProperty("rotulosYFixos", QStringList{"10", "1000000"});
+    const QRect antes = widget.quadroDosEixos();
+    widget.escreverEscalas({"0.0", "5.0", "10.0"}, {});
+    EXPECT_LT(widget.quadroDosEixos().width(), antes.width());
+    widget.escreverEscalas({"0.0", "5.0", "10.0"}, {"um rótulo muito mais longo"});
+    EXPECT_EQ(widget.quadroDosEixos().width(), antes.width() -
+                                                   widget.fontMetrics().horizontalAdvance("1000000") +
+                                                   widget.fontMetrics().horizontalAdvance("00.0"));
+}
+
+TEST_F(Grafico, a_legenda_fica_acima_dos_eixos_com_a_cor_e_o_estilo_de_cada_curva) {
+    const QRect antes = widget.quadroDosEixos();
+    widget.setProperty("legenda", QStringList{"CUC=#0000ff", "UD=#ff0000:tracejado"});
+    const QRect quadro = widget.quadroDosEixos();
+    EXPECT_GT(quadro.top(), antes.top());
+    const auto imagem = widget.grab().toImage();
+    const auto trechos = [&](QColor cor) {
+        int quantos = 0;
+        for (int y = 0; y < quadro.top(); ++y) {
+            int nesta = 0;
+            for (int x = 1; x < imagem.width(); ++x)
+                nesta += imagem.pixelColor(x, y) == cor && imagem.pixelColor(x - 1, y) != cor;
+            quantos = std::max(quantos, nesta);
+        }
+        return quantos;
+    };
+    EXPECT_EQ(trechos(Qt::blue), 1);
+    EXPECT_GT(trechos(Qt::red), 1);
+}
+
+TEST_F(Grafico, o_tracejado_da_legenda_segue_de_um_segmento_ao_outro) {
+    widget.setProperty("legenda", QStringList{"UD=#ff0000:tracejado"});
+    desenho.larguraTraco(2);
+    // Each is shorter than a dash and a gap.
+    for (int x = 80; x < 300; x += 2) desenho.linha(x, 100, x + 2, 100, cores::vermelho);
+    desenho.linha(80, 150, 300, 150, cores::azul);
+    widget.mostrar(desenho);
+    const auto imagem = widget.grab().toImage();
+    const auto t = widget.transformação();
+    const int de = static_cast<int>(t.map(QPointF{80, 100}).x()) + 1;
+    const int até = static_cast<int>(t.map(QPointF{300, 100}).x()) - 1;
+    const auto trechos = [&](double altura) {
+        const int y = static_cast<int>(t.map(QPointF{80, altura}).y());
+        const auto pintado = [&](int x) { return imagem.pixelColor(x, y).green() < 130; };
+        int quantos = 1;
+        for (int x = de; x < até; ++x) quantos += !pintado(x) && pintado(x + 1);
+        return quantos;
+    };
+    // Dashes of four widths with gaps of two.
+    EXPECT_NEAR(trechos(100), (até - de) / 12.0, 2);
+    EXPECT_EQ(trechos(150), 1);
+}
+
+TEST_F(Grafico, pontos_são_redondos) {
+    widget.resize(900, 300);
+    desenho.estiloPreenchimento(EstiloPreenchimento::sólido);
+    desenho.arco(200, 100, 10, cores::vermelho);
+    widget.mostrar(desenho);
+    const auto imagem = widget.grab().toImage();
+    const QPoint centro = widget.transformação().map(QPointF{200, 100}).toPoint();
+    const auto alcance = [&](QPoint passo) {
+        int n = 0;
+        while (imagem.pixelColor(centro + n * passo) == QColor(Qt::red)) ++n;
+        return n;
+    };
+    EXPECT_GT(alcance({1, 0}), 5);
+    EXPECT_NEAR(alcance({1, 0}), alcance({0, 1}), 1);
 }
 
 TEST_F(Grafico, a_malha_clara_e_a_escura_se_distinguem_do_fundo) {

@@ -291,7 +291,7 @@ TEST_F(TelaDoPerfilTransversal, FecharPelaCaixaDevolveATelaPrincipal) {
 
 TEST_F(TelaDoPerfilTransversal, BotõesSemTelaAindaNãoPodemSerClicados) {
     clicar("Command2");
-    for (const char* nome : {"cmdUniformidade", "Command3", "Command5"})
+    for (const char* nome : {"Command3", "Command5"})
         EXPECT_EQ(recusaDe([&] { clicar(nome); }), "Form7." + std::string{nome} + " está desabilitado");
 }
 

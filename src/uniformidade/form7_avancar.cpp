@@ -1,0 +1,53 @@
+#include "aspersor/atualizar_aspersor.h"
+#include "aspersor/form1.h"
+#include "comum/numeros.h"
+#include "comum/operacoes.h"
+#include "simulacao/entradas_form7.h"
+#include "simulacao/form7.h"
+#include "simulacao/perfil_transversal.h"
+#include "uniformidade/form4.h"
+#include "uniformidade/graficos_form4.h"
+#include "uniformidade/uniformidade_centro.h"
+
+namespace varenta {
+
+void form7_Command2_Click() {
+    if (!entradasDaSimulaçãoVálidas()) return;
+    calcularPerfilTransversal();
+    form7->cmdUniformidade.habilitado = true;
+    form7->Command3.habilitado = true;
+    marcar(form1, form1->optMCA);
+    form4->Label1.texto = "Pressão: " + form1->lblPressão.texto + " m.c.a.";
+    form4->Label2.texto = form7->Label19.texto;
+    // The spacing stands here, and not the angle, until the button that goes on writes it again.
+    form4->Label3.texto = "Ângulo: " + form7->Combo2.texto + " graus";
+    form4->Label4.texto = "Velocidade: " + form7->Text1.texto + " m/h";
+    form4->Label8.texto = "Vazão: " + form1->lblVazão.texto + " m³/h";
+    form4->Label7.texto = "Raio: " + form1->lblRaioAlcance.texto + " m";
+}
+
+void form7_cmdUniformidade_Click() {
+    auto& f = *form4.operator->();
+    if (const auto* modelo = modeloDaCaption(form1->Caption))
+        f.Caption =
+            "Uniformidade no Centro da Faixa com Vento - Aspersor KELMO-" + std::string{modelo->nomeEspaçado};
+    f.flexGrid_A.formato("^    E (m)     |^  CUC (%)   |^  UD (%)  |^ I médio (mm)");
+    f.flexGrid_B.formato("^Distância (m)|^I direita (mm)|^ I esquerda (mm)|^ I total (mm)");
+    prepararGráfico(f.Picture1, malhaDaSobreposição);
+    prepararGráfico(f.Picture2, malhaDosEspaçamentos);
+    f.cmbEspaçamento.itens = espaçamentosParaRaio(lerPrefixo(form1->lblRaioAlcance.texto));
+    escolherItem(f.cmbEspaçamento, static_cast<int>((f.cmbEspaçamento.itens.size() + 1) / 2));
+    f.Label1.texto = form7->Label18.texto;
+    f.Label2.texto = form7->Label19.texto;
+    f.Label3.texto = "Ângulo: " + form7->Label35.texto + " graus";
+    f.Label4.texto = "Velocidade: " + form7->Text1.texto + " m/h";
+    f.Label8.texto = form7->Label27.texto;
+    f.Label7.texto = form7->Label28.texto;
+    f.Label37.texto = "Velocidade do Vento: " + form7->Label17.texto + " m/s";
+    f.Label38.texto = "Direção do Vento: " + form7->Label2.texto + "º";
+    f.Command10.visivel = false;
+    form7.esconder();
+    form4.mostrar();
+}
+
+} // namespace varenta
