@@ -55,8 +55,8 @@ TEST(PosicoesEntreCarreadores, OQueNãoDivideVaiParaOInteiroMaisPróximoEEmpateP
 }
 
 TEST(MenorQuarto, DoisACincoDãoUmSeisANoveDoisEDezTrês) {
-    for (const std::size_t n : {2, 3, 4, 5}) EXPECT_EQ(menorQuarto(n), 1u) << n;
-    for (const std::size_t n : {6, 7, 8, 9}) EXPECT_EQ(menorQuarto(n), 2u) << n;
+    for (const std::size_t n : std::vector<std::size_t>{2, 3, 4, 5}) EXPECT_EQ(menorQuarto(n), 1u) << n;
+    for (const std::size_t n : std::vector<std::size_t>{6, 7, 8, 9}) EXPECT_EQ(menorQuarto(n), 2u) << n;
     EXPECT_EQ(menorQuarto(10), 3u);
 }
 
