@@ -169,9 +169,7 @@ void desenharPerfilRadial(const SeleçãoDeAspersor& tela, const Avaliação& av
 
     auto& desenho = tela.Picture1;
     constexpr auto& malha = malhaDoPerfilRadial;
-    desenho.limpar();
-    desenho.larguraTraco(1);
-    desenharMalha(desenho, malha);
+    prepararGráfico(desenho, malha);
     desenho.larguraTraco(2);
     desenharCurva(desenho, cores::azul, curva.amostras.size(), [&](std::size_t n) {
         const auto& amostra = curva.amostras[n];

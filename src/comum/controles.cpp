@@ -23,6 +23,7 @@ void Grade::escrever(int linha, int coluna, std::string texto) {
 
 void Grade::dimensionar(int novasLinhas, int novasColunas) {
     if (novasLinhas < 1 || novasColunas < 1) throw ErroExecucao{valorDePropriedadeInválido};
+    if (std::int64_t{novasLinhas} * novasColunas > maisCélulas) throw ErroExecucao{memóriaInsuficiente};
     std::vector<std::string> novas(static_cast<std::size_t>(novasLinhas) *
                                    static_cast<std::size_t>(novasColunas));
     for (int l = 0; l < std::min(linhas, novasLinhas); ++l)

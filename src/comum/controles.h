@@ -3,6 +3,7 @@
 #include "comum/desenho.h"
 
 #include <cstddef>
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -114,6 +115,10 @@ struct Barra {
 
 enum class Alinhamento { esquerda, centro, direita };
 
+/// More cells than any table of the system needs. A typed number that asks for more is refused before memory
+/// is.
+inline constexpr std::int64_t maisCélulas = 10'000'000;
+
 /// A table of texts with a fixed header row and a fixed first column. Cells are counted from 0, headers
 /// included.
 struct Grade {
@@ -133,7 +138,8 @@ struct Grade {
     /// Raises "Índice fora dos limites" outside the grid.
     const std::string& célula(int linha, int coluna) const;
     void escrever(int linha, int coluna, std::string texto);
-    /// Keeps the cells that fit, empties the new ones; the current cell stays within the grid.
+    /// Keeps the cells that fit, empties the new ones; the current cell stays within the grid. Raises "Valor
+    /// de propriedade inválido" below one row or column, "Memória insuficiente" above `maisCélulas`.
     void dimensionar(int linhas, int colunas);
     /// Header texts and alignments of all columns, as in "^ No |^ Distância (m) ": '|' separates columns,
     /// '^' centres one, '>' sets it to the right, the blanks around a text only widen it.

@@ -28,6 +28,12 @@ void desenharMalha(Desenho& desenho, const MalhaDeGráfico& malha) {
     desenharHorizontais(desenho, malha, malha.grossasHorizontais, cores::preto);
 }
 
+void prepararGráfico(Desenho& desenho, const MalhaDeGráfico& malha) {
+    desenho.limpar();
+    desenho.larguraTraco(1);
+    desenharMalha(desenho, malha);
+}
+
 void desenharCurva(Desenho& desenho, Cor cor, std::size_t quantos,
                    const std::function<PontoDoDesenho(std::size_t)>& ponto) {
     if (quantos < 2) return;

@@ -31,6 +31,9 @@ struct MalhaDeGráfico {
 /// Draws the light grid in white and the heavy one in black over it, with the pen's present width.
 void desenharMalha(Desenho& desenho, const MalhaDeGráfico& malha);
 
+/// Begins a chart: clears the surface and draws the grid with width 1.
+void prepararGráfico(Desenho& desenho, const MalhaDeGráfico& malha);
+
 struct PontoDoDesenho {
     double x, y;
 };

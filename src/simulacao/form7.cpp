@@ -34,13 +34,6 @@ void escreverGiro() {
     form7->Labelang.texto = form7->Label35.texto + "º";
 }
 
-void voltarDe(TelaBase& anterior) {
-    anterior.carregar();
-    form7.descarregar();
-    anterior.mostrar();
-    telaPrincipal->habilitada = false;
-}
-
 } // namespace
 
 void form7_Load() {
@@ -111,7 +104,11 @@ void form7_Command1_Click() {
     lerArquivoDeParametros(*caminho);
 }
 
-void form7_Command4_Click() { voltarDe(form1); }
+void form7_Command4_Click() {
+    form7.descarregar();
+    form1.mostrar();
+    telaPrincipal->habilitada = false;
+}
 
 void form7_cmdSair_Click() {
     form7.descarregar();

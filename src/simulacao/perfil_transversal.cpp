@@ -131,9 +131,7 @@ void desenharGráfico(const PerfilTransversal& perfil, double S) {
     escreverEscala(form7->Label3, -metade * S, 2 * metade * S / 8, "0.0");
 
     auto& desenho = form7->Picture2;
-    desenho.limpar();
-    desenho.larguraTraco(1);
-    desenharMalha(desenho, malha);
+    prepararGráfico(desenho, malha);
     desenho.larguraTraco(2);
     const double largura = 2 * S * metade, topo = 5 * passo;
     desenharCurva(desenho, cores::azul, N, [&](std::size_t i) {

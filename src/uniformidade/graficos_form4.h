@@ -28,7 +28,4 @@ inline constexpr MalhaDeGráfico malhaDaSobreposição{
     .grossasHorizontais = {42, 35, 5},
 };
 
-/// Clears a chart and draws its grid with width 1.
-void prepararGráfico(Desenho& desenho, const MalhaDeGráfico& malha);
-
 } // namespace varenta

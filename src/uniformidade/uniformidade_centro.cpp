@@ -110,12 +110,6 @@ void desenharSobreposição(const Sobreposição& soma, double s) {
 
 } // namespace
 
-void prepararGráfico(Desenho& desenho, const MalhaDeGráfico& malha) {
-    desenho.limpar();
-    desenho.larguraTraco(1);
-    desenharMalha(desenho, malha);
-}
-
 std::vector<std::string> espaçamentosParaRaio(double R) {
     std::vector<std::string> textos;
     for (double E = 6 * Int(2 * R * 0.4 / 6); E <= 2 * R; E += 6) textos.push_back(paraTexto(E));
@@ -162,8 +156,7 @@ void sobreporEspacamento() {
         f.flexGrid_B.escrever(linha, 0, Format(distânciaDaPosição(P, perfil.s), "0.00"));
         f.flexGrid_B.escrever(linha, 3, Format(soma.total[P], "#0.000"));
     }
-    const auto q = soma.total.size() < 2 ? 0 : menorQuarto(soma.total.size());
-    const auto valores = calcularEstatísticas(soma.total, q);
+    const auto valores = calcularEstatísticas(soma.total, menorQuarto(soma.total.size()));
     f.Label17.texto = Format(valores.media, "##0.00");
     f.Label33.texto = Format(valores.UD, "##0.00");
     f.Label16.texto = Format(valores.CUC, "##0.00");

@@ -178,6 +178,17 @@ TEST_F(UniformidadeNoCentro, SeisVírgulaQuatroDigitadoPassa) {
     EXPECT_EQ(form4->flexGrid_B.linhas, 4); // 6.4 / 2 goes to 3 positions
 }
 
+TEST_F(UniformidadeNoCentro, EspaçamentoEnormeÉRecusadoSemPedirAMemória) {
+    avançar();
+    calcularMaior();
+    const int linhas = form4->flexGrid_B.linhas;
+    digitar("600000000");
+    clicar("Command9");
+    EXPECT_EQ(caderno, Textos{"erro: Memória insuficiente"});
+    EXPECT_EQ(form4->flexGrid_B.linhas, linhas);
+    EXPECT_FALSE(form4->Command5.habilitado);
+}
+
 TEST_F(UniformidadeNoCentro, MenosDeDuasPosiçõesÉEstouroDepoisDaTabela) {
     avançar();
     form7->Combo2.texto = "6";
