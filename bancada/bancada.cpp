@@ -6,6 +6,7 @@
 #include "shell/form3.h"
 #include "shell/sistema.h"
 #include "simulacao/form7.h"
+#include "simulacao/fonte_aspersor.h"
 #include "simulacao/perfil_transversal.h"
 
 #include <benchmark/benchmark.h>
@@ -27,7 +28,7 @@ DadosDaSimulação caso() {
     escolherItem(form7->Combo2, "1.5");
     definirValor(form7->HScroll1, 60);
     definirValor(form7->HScroll2, 50);
-    return lerSimulação();
+    return lerSimulação(aspersorDoCatálogo());
 }
 
 void contar(benchmark::State& estado, const ContagemDoModelo& contagem) {

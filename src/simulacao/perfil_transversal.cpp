@@ -1,12 +1,10 @@
 #include "simulacao/perfil_transversal.h"
 
-#include "aspersor/form1.h"
 #include "comum/erro_execucao.h"
 #include "comum/numeros.h"
-#include "comum/plataforma.h"
+#include "simulacao/fonte_aspersor.h"
 #include "simulacao/form7.h"
 #include "simulacao/grafico_perfil_transversal.h"
-#include "simulacao/perfil_em.h"
 
 #include <algorithm>
 #include <cmath>
@@ -64,37 +62,6 @@ PerfilTransversal perfilTransversal(const DadosDaSimulação& dados) {
 
 namespace {
 
-/// What tells a catalogue sprinkler from any other: the texts of its screen.
-struct FonteDoAspersor {
-    const Rotulo& raio;
-    const std::string& anguloJato; // degrees
-    std::span<const Rotulo> lblIntensidade;
-};
-
-DadosDaSimulação ler(const FonteDoAspersor& fonte) {
-    DadosDaSimulação dados{};
-    auto& c = dados.condições;
-    auto& f = *form7.operator->();
-    c.R = lerPrefixo(fonte.raio.texto);
-    c.A = lerPrefixo(f.Text2.texto) * c.R;
-    c.B = lerPrefixo(f.Text3.texto) * c.R;
-    c.C = lerPrefixo(f.Text4.texto) * c.R;
-    c.D = lerPrefixo(f.Text5.texto) * c.R;
-    c.E = lerPrefixo(f.Text6.texto) * c.R;
-    c.F = lerPrefixo(f.Text7.texto) * c.R;
-    dados.S = simples(lerPrefixo(f.Combo2.texto));
-    c.anguloSecoI = lerPrefixo(f.Label24.texto);
-    c.anguloSecoII = lerPrefixo(f.Label33.texto);
-    c.anguloGiro = 360 - (c.anguloSecoI + c.anguloSecoII);
-    c.rotacao = lerPrefixo(f.Label36.texto);
-    dados.V = lerPrefixo(f.Text1.texto);
-    c.anguloJato = radianos(lerPrefixo(fonte.anguloJato));
-    c.rotVento = rotaçãoDoVento(lerPrefixo(f.Label2.texto));
-    c.W = simples(lerPrefixo(f.Label17.texto));
-    c.intensidades = intensidadesDosRótulos(fonte.lblIntensidade);
-    return dados;
-}
-
 void escreverTabela(Grade& flexA, const PerfilTransversal& perfil) {
     const int N = static_cast<int>(perfil.Lam.size());
     flexA.dimensionar(N + 1, 3);
@@ -105,21 +72,6 @@ void escreverTabela(Grade& flexA, const PerfilTransversal& perfil) {
         flexA.escrever(i, 1, Format(perfil.Dist[k], "0.00"));
         flexA.escrever(i, 2, Format(perfil.Lam[k], "0.000"));
     }
-}
-
-/// Tells at how many points the model's values may make no physical sense.
-void avisarDoModelo(Rotulo& lblAviso, const ContagemDoModelo& contagem) {
-    lblAviso.texto.clear();
-    const auto avisar = [&](std::size_t quantos, const char* motivo) {
-        if (quantos == 0) return;
-        const auto aviso = "em " + std::to_string(quantos) + " de " + std::to_string(contagem.pontos) +
-                           " pontos " + motivo + "; os valores podem não ter sentido físico.";
-        if (!lblAviso.texto.empty()) lblAviso.texto += "\n";
-        lblAviso.texto += "Aviso: " + aviso;
-        plataforma::avisar(aviso);
-    };
-    avisar(contagem.semConvergência, "o modelo de vento não convergiu");
-    avisar(contagem.fatorNãoPositivo, "o fator de área do modelo não é positivo");
 }
 
 void desenharGráfico(const PerfilTransversal& perfil, double S) {
@@ -143,7 +95,7 @@ void desenharGráfico(const PerfilTransversal& perfil, double S) {
 }
 
 void calcular(const FonteDoAspersor& fonte) {
-    const auto dados = ler(fonte);
+    const auto dados = lerSimulação(fonte);
     const auto perfil = perfilTransversal(dados);
     escreverTabela(form7->flexA, perfil);
     avisarDoModelo(form7->lblAviso, perfil.contagem);
@@ -151,14 +103,7 @@ void calcular(const FonteDoAspersor& fonte) {
     form7->Command3.habilitado = true;
 }
 
-FonteDoAspersor aspersorDoCatálogo() {
-    auto& f = *form1.operator->();
-    return {f.lblRaioAlcance, f.Label12.texto, std::span{f.lblIntensidade}.subspan(1)};
-}
-
 } // namespace
-
-DadosDaSimulação lerSimulação() { return ler(aspersorDoCatálogo()); }
 
 void calcularPerfilTransversal() { calcular(aspersorDoCatálogo()); }
 

@@ -37,9 +37,6 @@ struct PerfilTransversal {
 /// Raises what the model raises, and "Divisão por zero" or "Estouro" for a speed of 0.
 PerfilTransversal perfilTransversal(const DadosDaSimulação& dados);
 
-/// Reads the catalogue sprinkler from `form1` and the run from `Form7`.
-DadosDaSimulação lerSimulação();
-
 /// Evaluates the transversal profile for the catalogue sprinkler of `form1`, and fills the table and the
 /// chart of `Form7`.
 void calcularPerfilTransversal();

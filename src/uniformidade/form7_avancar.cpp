@@ -1,8 +1,8 @@
-#include "aspersor/atualizar_aspersor.h"
 #include "aspersor/form1.h"
 #include "comum/numeros.h"
 #include "comum/operacoes.h"
 #include "simulacao/entradas_form7.h"
+#include "simulacao/fonte_aspersor.h"
 #include "simulacao/form7.h"
 #include "simulacao/perfil_transversal.h"
 #include "uniformidade/form4.h"
@@ -26,16 +26,16 @@ void form7_Command2_Click() {
     form4->Label7.texto = "Raio: " + form1->lblRaioAlcance.texto + " m";
 }
 
-void form7_cmdUniformidade_Click() {
+namespace {
+
+void abrirForm4(const FonteDoAspersor& fonte) {
     auto& f = *form4.operator->();
-    if (const auto* modelo = modeloDaCaption(form1->Caption))
-        f.Caption =
-            "Uniformidade no Centro da Faixa com Vento - Aspersor KELMO-" + std::string{modelo->nomeEspaçado};
+    f.Caption = "Uniformidade no Centro da Faixa com Vento - Aspersor " + fonte.nome;
     f.flexGrid_A.formato("^    E (m)     |^  CUC (%)   |^  UD (%)  |^ I médio (mm)");
     f.flexGrid_B.formato("^Distância (m)|^I direita (mm)|^ I esquerda (mm)|^ I total (mm)");
     prepararGráfico(f.Picture1, malhaDaSobreposição);
     prepararGráfico(f.Picture2, malhaDosEspaçamentos);
-    f.cmbEspaçamento.itens = espaçamentosParaRaio(lerPrefixo(form1->lblRaioAlcance.texto));
+    f.cmbEspaçamento.itens = espaçamentosParaRaio(lerPrefixo(fonte.raio.texto));
     escolherItem(f.cmbEspaçamento, static_cast<int>((f.cmbEspaçamento.itens.size() + 1) / 2));
     f.Label1.texto = form7->Label18.texto;
     f.Label2.texto = form7->Label19.texto;
@@ -45,9 +45,15 @@ void form7_cmdUniformidade_Click() {
     f.Label7.texto = form7->Label28.texto;
     f.Label37.texto = "Velocidade do Vento: " + form7->Label17.texto + " m/s";
     f.Label38.texto = "Direção do Vento: " + form7->Label2.texto + "º";
-    f.Command10.visivel = false;
     form7.esconder();
     form4.mostrar();
+}
+
+} // namespace
+
+void form7_cmdUniformidade_Click() {
+    abrirForm4(aspersorDoCatálogo());
+    form4->Command10.visivel = false;
 }
 
 } // namespace varenta

@@ -1,3 +1,4 @@
+#include "simulacao/fonte_aspersor.h"
 #include "simulacao/perfil_transversal.h"
 
 #include "apoio/simulacao_feita_a_mao.h"
@@ -279,7 +280,7 @@ TEST_F(CalcularPerfilTransversal, LêOsTextosDosControles) {
     atos::rolar(alvo(form7, "HScroll4"), 30);
     atos::rolar(alvo(form7, "HScroll5"), -15);
     atos::digitar(alvo(form7, "Text1"), "75 m/h");
-    const auto dados = lerSimulação();
+    const auto dados = lerSimulação(aspersorDoCatálogo());
     const auto& c = dados.condições;
     EXPECT_EQ(c.R, 42.7); // of TX15 with 18 x 6 mm at 50 m.c.a., as its caption shows it
     EXPECT_EQ(c.A, 0.0362 * 42.7);
@@ -302,7 +303,7 @@ TEST_F(CalcularPerfilTransversal, LêOsTextosDosControles) {
 
 TEST_F(CalcularPerfilTransversal, OGiroÉCalculadoENãoLidoDaLegenda) {
     form7->Label35.texto = "7";
-    EXPECT_EQ(lerSimulação().condições.anguloGiro, 240);
+    EXPECT_EQ(lerSimulação(aspersorDoCatálogo()).condições.anguloGiro, 240);
 }
 
 TEST_F(CalcularPerfilTransversal, AsEscalasDoGráficoSeguemAMaiorLâminaEALargura) {
@@ -386,7 +387,7 @@ TEST_F(CalcularPerfilTransversal, AvisaEmQuantosPontosOModeloNãoMereceConfianç
     atos::rolar(alvo(form7, "HScroll2"), 100);
     atos::rolar(alvo(form7, "HScroll1"), 60);
     calcularPerfilTransversal();
-    const auto contagem = perfilTransversal(lerSimulação()).contagem;
+    const auto contagem = perfilTransversal(lerSimulação(aspersorDoCatálogo())).contagem;
     ASSERT_GT(contagem.semConvergência, 0u);
     ASSERT_GT(contagem.fatorNãoPositivo, 0u);
     const auto de = " de " + std::to_string(contagem.pontos) + " pontos ";
@@ -432,7 +433,7 @@ TEST(ConservaçãoDoVolume, SemVentoAsLâminasDevolvemAVazãoDeCadaAspersorDoCat
     // so well by themselves; the next test covers all pressures.
     int quantos = 0;
     paraCadaAspersor(50, [&](const std::string& aspersor) {
-        const auto dados = lerSimulação();
+        const auto dados = lerSimulação(aspersorDoCatálogo());
         const double vazão = lerEstrito(form1->lblVazão.texto);
         EXPECT_NEAR(vazãoAplicada(perfilTransversal(dados), dados) / vazão, 1, 0.02) << aspersor;
         ++quantos;
@@ -455,7 +456,7 @@ double vazãoDoPerfil(const CondiçõesDoPonto& c) {
 TEST(ConservaçãoDoVolume, SemVentoAsLâminasDevolvemAIntegralDoPerfilDentroDe2PorCentoEmTodaPressão) {
     for (int pressão = 30; pressão <= 70; pressão += 5)
         paraCadaAspersor(pressão, [](const std::string& aspersor) {
-            const auto dados = lerSimulação();
+            const auto dados = lerSimulação(aspersorDoCatálogo());
             EXPECT_NEAR(vazãoAplicada(perfilTransversal(dados), dados) / vazãoDoPerfil(dados.condições), 1,
                         0.02)
                 << aspersor;

@@ -1,0 +1,57 @@
+#include "simulacao/fonte_aspersor.h"
+
+#include "aspersor/atualizar_aspersor.h"
+#include "aspersor/form1.h"
+#include "comum/numeros.h"
+#include "comum/plataforma.h"
+#include "simulacao/form7.h"
+#include "simulacao/perfil_em.h"
+
+namespace varenta {
+
+FonteDoAspersor aspersorDoCatálogo() {
+    auto& f = *form1.operator->();
+    std::string nome = "KELMO-";
+    if (const auto* modelo = modeloDaCaption(f.Caption)) nome += modelo->nomeEspaçado;
+    return {nome, f.lblRaioAlcance, f.lblVazão, f.Label12.texto, std::span{f.lblIntensidade}.subspan(1)};
+}
+
+DadosDaSimulação lerSimulação(const FonteDoAspersor& fonte) {
+    DadosDaSimulação dados{};
+    auto& c = dados.condições;
+    auto& f = *form7.operator->();
+    c.R = lerPrefixo(fonte.raio.texto);
+    c.A = lerPrefixo(f.Text2.texto) * c.R;
+    c.B = lerPrefixo(f.Text3.texto) * c.R;
+    c.C = lerPrefixo(f.Text4.texto) * c.R;
+    c.D = lerPrefixo(f.Text5.texto) * c.R;
+    c.E = lerPrefixo(f.Text6.texto) * c.R;
+    c.F = lerPrefixo(f.Text7.texto) * c.R;
+    dados.S = simples(lerPrefixo(f.Combo2.texto));
+    c.anguloSecoI = lerPrefixo(f.Label24.texto);
+    c.anguloSecoII = lerPrefixo(f.Label33.texto);
+    c.anguloGiro = 360 - (c.anguloSecoI + c.anguloSecoII);
+    c.rotacao = lerPrefixo(f.Label36.texto);
+    dados.V = lerPrefixo(f.Text1.texto);
+    c.anguloJato = radianos(lerPrefixo(fonte.anguloJato));
+    c.rotVento = rotaçãoDoVento(lerPrefixo(f.Label2.texto));
+    c.W = simples(lerPrefixo(f.Label17.texto));
+    c.intensidades = intensidadesDosRótulos(fonte.lblIntensidade);
+    return dados;
+}
+
+void avisarDoModelo(Rotulo& lblAviso, const ContagemDoModelo& contagem) {
+    lblAviso.texto.clear();
+    const auto avisar = [&](std::size_t quantos, const char* motivo) {
+        if (quantos == 0) return;
+        const auto aviso = "em " + std::to_string(quantos) + " de " + std::to_string(contagem.pontos) +
+                           " pontos " + motivo + "; os valores podem não ter sentido físico.";
+        if (!lblAviso.texto.empty()) lblAviso.texto += "\n";
+        lblAviso.texto += "Aviso: " + aviso;
+        plataforma::avisar(aviso);
+    };
+    avisar(contagem.semConvergência, "o modelo de vento não convergiu");
+    avisar(contagem.fatorNãoPositivo, "o fator de área do modelo não é positivo");
+}
+
+} // namespace varenta

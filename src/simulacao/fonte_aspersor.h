@@ -1,0 +1,33 @@
+#pragma once
+
+#include "comum/controles.h"
+#include "simulacao/perfil_transversal.h"
+
+#include <span>
+#include <string>
+
+namespace varenta {
+
+/// What tells one sprinkler from another: the texts of the screens that hold it. The same bodies serve a
+/// catalogue sprinkler and any other, fed from its own screen.
+struct FonteDoAspersor {
+    /// Its name as titles spell it, as in "KELMO-TX 15".
+    std::string nome;
+    const Rotulo& raio;            // reach, m
+    const Rotulo& vazão;           // flow, m³/h
+    const std::string& anguloJato; // degrees
+    /// The 22 intensities of the radial profile, mm/h.
+    std::span<const Rotulo> lblIntensidade;
+};
+
+/// The catalogue sprinkler that `form1` holds.
+FonteDoAspersor aspersorDoCatálogo();
+
+/// Reads the sprinkler, and the run from `Form7`.
+DadosDaSimulação lerSimulação(const FonteDoAspersor& fonte);
+
+/// Writes to the screen's notice at how many points of a calculation the wind model's values may make no
+/// physical sense, and tells the person; empties the notice where at none.
+void avisarDoModelo(Rotulo& lblAviso, const ContagemDoModelo& contagem);
+
+} // namespace varenta
