@@ -1,6 +1,7 @@
 #include "comum/desenho.h"
 
 #include <numbers>
+#include <utility>
 
 namespace varenta {
 
@@ -26,6 +27,17 @@ void Desenho::caixaCheia(double x1, double y1, double x2, double y2, Cor cor) {
 
 void Desenho::caixaCheiaDeTamanho(double x, double y, double largura, double altura, Cor cor) {
     caixaCheia(x, y, x + largura, y + altura, cor);
+}
+
+CaixaCheia Mosaico::caixa(std::size_t n) const {
+    const double x1 = x + static_cast<double>(n % colunas) * largura;
+    const double y1 = y + static_cast<double>(n / colunas) * altura;
+    return {x1, y1, x1 + largura, y1 + altura, cores[n]};
+}
+
+void Desenho::mosaico(Mosaico mosaico) {
+    traços.push_back(std::move(mosaico));
+    versão = novaVersão();
 }
 
 void Desenho::arco(double cx, double cy, double raio, Cor cor) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <variant>
 #include <vector>
@@ -50,7 +51,19 @@ struct Arco {
     bool preenchido;
 };
 
-using Traço = std::variant<Linha, CaixaCheia, Arco>;
+/// Filled boxes of one size side by side, row by row, as a map has them by the ten thousands.
+struct Mosaico {
+    /// First corner of the first box, and the size of each.
+    double x, y, largura, altura;
+    std::size_t colunas;
+    /// The colours of all boxes; whole rows.
+    std::vector<Cor> cores;
+
+    std::size_t linhas() const { return cores.size() / colunas; }
+    CaixaCheia caixa(std::size_t n) const;
+};
+
+using Traço = std::variant<Linha, CaixaCheia, Arco, Mosaico>;
 
 /// A number that no drawing and no grid has borne yet: what changes takes a new one, so that a front end
 /// knows when to show it anew, even where a screen was closed and came back in the meantime.
@@ -80,6 +93,7 @@ struct Desenho {
     void caixaCheia(double x1, double y1, double x2, double y2, Cor cor);
     /// A filled box from its first corner, with its width and height.
     void caixaCheiaDeTamanho(double x, double y, double largura, double altura, Cor cor);
+    void mosaico(Mosaico mosaico);
     /// A whole circle.
     void arco(double cx, double cy, double raio, Cor cor);
     void arco(double cx, double cy, double raio, Cor cor, double início, double fim);

@@ -18,6 +18,7 @@ inline constexpr const char* estouro = "Estouro";
 inline constexpr const char* tiposIncompatíveis = "Tipos incompatíveis";
 inline constexpr const char* índiceForaDosLimites = "Índice fora dos limites";
 inline constexpr const char* valorDePropriedadeInválido = "Valor de propriedade inválido";
+inline constexpr const char* argumentoInválido = "Chamada de procedimento ou argumento inválido";
 inline constexpr const char* memóriaInsuficiente = "Memória insuficiente";
 
 /// The element `índice` of `sequência`. Raises "Índice fora dos limites" where there is none.

@@ -21,6 +21,8 @@ void mensagem(std::string_view texto);
 bool perguntar(std::string_view texto);
 /// A quiet notice beside the results, which stops nothing.
 void avisar(std::string_view texto);
+/// Long work begins (true) or ends: the pointer changes at once. Calls with true and false come in pairs.
+void mostrarAmpulheta(bool mostrar);
 /// A run-time error has ended an operation.
 void erroDeExecucao(std::string_view texto);
 /// The path chosen, in UTF-8; nothing where the dialog was cancelled.

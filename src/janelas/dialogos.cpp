@@ -5,6 +5,7 @@
 
 #include <QApplication>
 #include <QFileDialog>
+#include <QGuiApplication>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QRegularExpression>
@@ -111,6 +112,13 @@ bool perguntar(std::string_view texto) {
 void avisar(std::string_view texto) {
     // In a window the notice stands in a label of its screen already.
     if (auto* roteiro = Interprete::ativo()) roteiro->avisar(texto);
+}
+
+void mostrarAmpulheta(bool mostrar) {
+    if (mostrar)
+        QGuiApplication::setOverrideCursor(Qt::WaitCursor);
+    else
+        QGuiApplication::restoreOverrideCursor();
 }
 
 void erroDeExecucao(std::string_view texto) {

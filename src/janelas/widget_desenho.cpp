@@ -84,6 +84,21 @@ class PintorDeTraços {
         pintor_.setRenderHint(QPainter::Antialiasing, true);
     }
 
+    /// One box to one pixel of an image, which is then stretched without smoothing.
+    void operator()(const varenta::Mosaico& mosaico) const {
+        QImage imagem{static_cast<int>(mosaico.colunas), static_cast<int>(mosaico.linhas()),
+                      QImage::Format_RGB32};
+        for (int l = 0; l < imagem.height(); ++l)
+            for (int c = 0; c < imagem.width(); ++c) {
+                const auto n = static_cast<std::size_t>(l) * mosaico.colunas + static_cast<std::size_t>(c);
+                imagem.setPixelColor(c, l, qcor(mosaico.cores[n]));
+            }
+        const QRectF lugar{transformação_.map(QPointF{mosaico.x, mosaico.y}),
+                           transformação_.map(QPointF{mosaico.x + mosaico.largura * imagem.width(),
+                                                      mosaico.y + mosaico.altura * imagem.height()})};
+        pintor_.drawImage(lugar, imagem);
+    }
+
     void operator()(const varenta::Arco& arco) const {
         constexpr double volta = 2 * std::numbers::pi;
         // Round in a chart too, which is stretched.

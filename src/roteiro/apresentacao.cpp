@@ -6,6 +6,7 @@
 #include <array>
 #include <charconv>
 #include <cstddef>
+#include <functional>
 #include <type_traits>
 #include <variant>
 
@@ -39,21 +40,32 @@ std::string apresentarTraço(const CaixaCheia& t) {
            cor(t.cor) + '\n';
 }
 
+std::string apresentarTraço(const Mosaico& t) {
+    std::string texto;
+    for (std::size_t n = 0; n < t.cores.size(); ++n) texto += apresentarTraço(t.caixa(n));
+    return texto;
+}
+
 std::string apresentarTraço(const Arco& t) {
     return "arco " + número(t.cx) + ' ' + número(t.cy) + ' ' + número(t.raio) + ' ' + cor(t.cor) + ' ' +
            número(t.início) + ' ' + número(t.fim) + ' ' + std::to_string(t.largura) +
            (t.preenchido ? " sim\n" : " não\n");
 }
 
-template <class Tipo>
-std::string contar(const Desenho& desenho) {
-    return std::to_string(std::ranges::count_if(
-        desenho.traços, [](const Traço& t) { return std::holds_alternative<Tipo>(t); }));
-}
+struct Contagem {
+    std::size_t linhas = 0, caixas = 0, arcos = 0;
+
+    void operator()(const Linha&) { ++linhas; }
+    void operator()(const CaixaCheia&) { ++caixas; }
+    void operator()(const Mosaico& mosaico) { caixas += mosaico.cores.size(); }
+    void operator()(const Arco&) { ++arcos; }
+};
 
 std::string resumirDesenho(const std::string& nome, const Desenho& desenho) {
-    return nome + ": " + contar<Linha>(desenho) + " linhas, " + contar<CaixaCheia>(desenho) + " caixas, " +
-           contar<Arco>(desenho) + " arcos\n";
+    Contagem contagem;
+    for (const auto& traço : desenho.traços) std::visit(std::ref(contagem), traço);
+    return nome + ": " + std::to_string(contagem.linhas) + " linhas, " + std::to_string(contagem.caixas) +
+           " caixas, " + std::to_string(contagem.arcos) + " arcos\n";
 }
 
 std::string apresentarGrade(const std::string& nome, const Grade& grade) {

@@ -21,6 +21,9 @@ bool perguntar(std::string_view texto) { return ativo().perguntar(texto); }
 
 void avisar(std::string_view texto) { ativo().avisar(texto); }
 
+// A script has no pointer to change while an operation runs.
+void mostrarAmpulheta(bool) {}
+
 void erroDeExecucao(std::string_view texto) { ativo().erroDeExecucao(texto); }
 
 std::optional<std::string> arquivoParaAbrir(const DialogoArquivo&) { return ativo().arquivoParaAbrir(); }

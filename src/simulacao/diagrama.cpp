@@ -11,11 +11,6 @@ namespace {
 constexpr double quartoDeVolta = 1.570796326794895;
 constexpr double voltaEUmQuarto = 7.853981633974475;
 
-/// A sector with its radial lines: the canvas asks for them by negative angles.
-void setor(Desenho& desenho, double cx, double cy, double raio, double início, double fim) {
-    desenho.arco(cx, cy, raio, cores::azulClaro, -início, -fim);
-}
-
 /// An end of the wetted sector, brought back into one turn.
 double emUmaVolta(double angulo) {
     if (angulo > doisPiDoModelo) return angulo - doisPiDoModelo;
@@ -24,16 +19,10 @@ double emUmaVolta(double angulo) {
 }
 
 void desenharVento(Desenho& desenho, double direção) {
-    constexpr double cx = 1455, cy = 1125, raio = 450, haste = 400, barbela = 120;
-    const double x = cx + raio * std::sin(direção), y = cy - raio * std::cos(direção);
-    const auto para = [&](double comprimento, double rumo) {
-        desenho.linha(x, y, x + comprimento * std::sin(rumo), y - comprimento * std::cos(rumo),
-                      cores::vermelho);
-    };
-    desenho.linha(cx, cy, x, y, cores::azul);
-    para(haste, direção);
-    para(barbela, direção - radianos(30));
-    para(barbela, direção + radianos(30));
+    constexpr PontoDoDesenho centro{1455, 1125};
+    const auto ponta = noRumo(centro, 450, direção);
+    desenho.linha(centro.x, centro.y, ponta.x, ponta.y, cores::azul);
+    desenharSeta(desenho, ponta, 400, direção);
 }
 
 /// The same circle at the place of every collector, and at the sample beside its caption.
@@ -45,9 +34,34 @@ void desenharColetores(Desenho& desenho, double raio, Cor cor) {
 
 } // namespace
 
+PontoDoDesenho noRumo(PontoDoDesenho centro, double distância, double rumo) {
+    return {centro.x + distância * std::sin(rumo), centro.y - distância * std::cos(rumo)};
+}
+
+void desenharSeta(Desenho& desenho, PontoDoDesenho ponta, double haste, double rumo) {
+    constexpr double barbela = 120;
+    const auto para = [&](double comprimento, double direção) {
+        const auto fim = noRumo(ponta, comprimento, direção);
+        desenho.linha(ponta.x, ponta.y, fim.x, fim.y, cores::vermelho);
+    };
+    para(haste, rumo);
+    para(barbela, rumo - radianos(30));
+    para(barbela, rumo + radianos(30));
+}
+
+Setor setorMolhado(int anguloSecoI, int anguloSecoII, int rotacao) {
+    const double a1 = radianos(anguloSecoI), a2 = radianos(anguloSecoII), rot = radianos(rotacao);
+    return {emUmaVolta(quartoDeVolta + a1 + rot),
+            emUmaVolta((anguloSecoII >= 90 ? voltaEUmQuarto : quartoDeVolta) - a2 + rot)};
+}
+
+void desenharSetor(Desenho& desenho, PontoDoDesenho centro, double raio, const Setor& setor) {
+    // The canvas asks for the radial lines by negative angles.
+    desenho.arco(centro.x, centro.y, raio, cores::azulClaro, -setor.início, -setor.fim);
+}
+
 void desenharDiagrama(Desenho& desenho, int direção, int anguloSecoI, int anguloSecoII, int rotacao) {
-    const double dir = radianos(direção), a1 = radianos(anguloSecoI), a2 = radianos(anguloSecoII),
-                 rot = radianos(rotacao);
+    const double dir = radianos(direção);
     desenho.limpar();
     desenho.larguraTraco(2);
     desenho.estiloPreenchimento(EstiloPreenchimento::transparente);
@@ -55,13 +69,12 @@ void desenharDiagrama(Desenho& desenho, int direção, int anguloSecoI, int angu
     if (direção != 0) {
         double rumo = doisPiDoModelo + quartoDeVolta - dir;
         if (rumo > doisPiDoModelo) rumo -= doisPiDoModelo;
-        setor(desenho, 1455, 1125, 300, rumo, quartoDeVolta);
+        desenharSetor(desenho, {1455, 1125}, 300, {rumo, quartoDeVolta});
     }
     desenharVento(desenho, dir);
 
-    const double início = emUmaVolta(quartoDeVolta + a1 + rot);
-    const double fim = emUmaVolta((anguloSecoII >= 90 ? voltaEUmQuarto : quartoDeVolta) - a2 + rot);
-    for (const double y : std::array{3290.0, 5840.0}) setor(desenho, 1455, y, 1000, início, fim);
+    const auto setor = setorMolhado(anguloSecoI, anguloSecoII, rotacao);
+    for (const double y : std::array{3290.0, 5840.0}) desenharSetor(desenho, {1455, y}, 1000, setor);
 
     desenho.estiloPreenchimento(EstiloPreenchimento::sólido);
     desenharColetores(desenho, 15, cores::amarelo);

@@ -1,8 +1,27 @@
 #pragma once
 
-#include "comum/desenho.h"
+#include "comum/grafico.h"
 
 namespace varenta {
+
+/// The point at a distance from `centro` in the direction `rumo`: radians clockwise from upward.
+PontoDoDesenho noRumo(PontoDoDesenho centro, double distância, double rumo);
+
+/// The wind's arrow in red: from its point `ponta` a shaft in the direction `rumo`, from which the wind
+/// comes, and two barbs.
+void desenharSeta(Desenho& desenho, PontoDoDesenho ponta, double haste, double rumo);
+
+/// The ends of the wetted sector on a plan whose upward direction is the sprinkler's ahead: radians
+/// anticlockwise from the right, within one turn, running from `início` to `fim`.
+struct Setor {
+    double início, fim;
+};
+
+/// The wetted sector of the dry angles and the rotation, in whole degrees.
+Setor setorMolhado(int anguloSecoI, int anguloSecoII, int rotacao);
+
+/// A sector with its radial lines.
+void desenharSetor(Desenho& desenho, PontoDoDesenho centro, double raio, const Setor& setor);
 
 /// Draws the sprinkler's diagram in twips: the wind at its rose, the wetted sector at two places of the
 /// travel lane, three rows of collectors. All angles in whole degrees: the wind's bearing, the dry angles,

@@ -13,8 +13,11 @@ FonteDoAspersor aspersorDoCatálogo() {
     auto& f = *form1.operator->();
     std::string nome = "KELMO-";
     if (const auto* modelo = modeloDaCaption(f.Caption)) nome += modelo->nomeEspaçado;
-    return {nome, f.lblRaioAlcance, f.lblVazão, f.Label12.texto, std::span{f.lblIntensidade}.subspan(1)};
+    return {
+        true, nome, f.lblRaioAlcance, f.lblVazão, f.Label12.texto, std::span{f.lblIntensidade}.subspan(1)};
 }
+
+FonteDoAspersor aspersorEmUso() { return aspersorDoCatálogo(); }
 
 DadosDaSimulação lerSimulação(const FonteDoAspersor& fonte) {
     DadosDaSimulação dados{};

@@ -11,6 +11,7 @@ namespace varenta {
 /// What tells one sprinkler from another: the texts of the screens that hold it. The same bodies serve a
 /// catalogue sprinkler and any other, fed from its own screen.
 struct FonteDoAspersor {
+    bool doCatálogo;
     /// Its name as titles spell it, as in "KELMO-TX 15".
     std::string nome;
     const Rotulo& raio;            // reach, m
@@ -22,6 +23,9 @@ struct FonteDoAspersor {
 
 /// The catalogue sprinkler that `form1` holds.
 FonteDoAspersor aspersorDoCatálogo();
+
+/// The sprinkler of the road that the screens are on.
+FonteDoAspersor aspersorEmUso();
 
 /// Reads the sprinkler, and the run from `Form7`.
 DadosDaSimulação lerSimulação(const FonteDoAspersor& fonte);

@@ -17,6 +17,7 @@ void form7_HScroll4_Change();
 void form7_HScroll5_Change();
 void form7_Command1_Click();
 void form7_Command2_Click(); // stands in uniformidade/, whose screens it writes
+void form7_Command3_Click();
 void form7_Command4_Click();
 void form7_cmdUniformidade_Click(); // stands in uniformidade/
 void form7_cmdSair_Click();
@@ -104,7 +105,7 @@ struct RegistroForm7 {
     Botao Command1{.texto = "Abrir Arquivo", .aoClicar = form7_Command1_Click};
     Botao Command2{.texto = "&Calcular Lâminas", .aoClicar = form7_Command2_Click};
     Botao Command8{.texto = "&Calcular Lâminas"};
-    Botao Command3{.texto = "&Gráfico Intensidades", .habilitado = false};
+    Botao Command3{.texto = "&Gráfico Intensidades", .aoClicar = form7_Command3_Click, .habilitado = false};
     Botao Command7{.texto = "&Gráfico Intensidades", .habilitado = false};
     Botao Command4{.texto = "<< &Voltar", .aoClicar = form7_Command4_Click};
     Botao Command6{.texto = "<< &Voltar"};

@@ -1,7 +1,7 @@
 #include "simulacao/perfil_transversal.h"
 
-#include "comum/erro_execucao.h"
 #include "comum/numeros.h"
+#include "simulacao/campo_intensidades.h"
 #include "simulacao/fonte_aspersor.h"
 #include "simulacao/form7.h"
 #include "simulacao/grafico_perfil_transversal.h"
@@ -11,45 +11,19 @@
 
 namespace varenta {
 
-int ladoDoCampo(const DadosDaSimulação& dados) {
-    const double S = dados.S;
-    auto sonda = dados.condições;
-    sonda.anguloGiro = 360;
-    double n = Int(dividir(sonda.R, S));
-    double intensidade = 0;
-    do {
-        n += 1;
-        if (2 * n > maiorLadoDoCampo) throw ErroExecucao{memóriaInsuficiente};
-        const double p = S * (n - 0.5);
-        intensidade = intensidadeEmPonto(-p, S / 2, sonda).valor;
-    } while (intensidade > 0);
-    return 2 * static_cast<int>(n);
-}
-
 PerfilTransversal perfilTransversal(const DadosDaSimulação& dados) {
-    const auto& c = dados.condições;
     const double S = dados.S;
-    const int lado = ladoDoCampo(dados);
-    const auto N = static_cast<std::size_t>(lado);
-    const double meio = static_cast<double>(lado) / 2;
-    const double cosseno = std::cos(c.rotVento), seno = std::sin(c.rotVento);
+    const auto N = static_cast<std::size_t>(ladoDoCampo(dados));
+    const auto& campo = campoDeIntensidades(dados, N);
 
     PerfilTransversal perfil;
-    perfil.Dist.resize(N);
-    std::vector<double> y(N), X(N), Y(N), M(N), totais(N);
-    for (std::size_t j = 0; j < N; ++j)
-        y[j] = S * (-meio + 0.5) + static_cast<double>(static_cast<float>(j) * dados.S);
-
-    // One row of the field at a time, across the lane. The totals run along the lane, from ahead to behind.
+    perfil.contagem = campo.contagem;
+    std::vector<double> totais(N);
+    // The totals run along the lane, from ahead to behind.
     for (std::size_t i = 0; i < N; ++i) {
-        const double x = S * (meio - 0.5) - static_cast<double>(i) * S;
-        perfil.Dist[i] = -x;
-        for (std::size_t j = 0; j < N; ++j) {
-            X[j] = x * cosseno - y[j] * seno;
-            Y[j] = y[j] * cosseno + x * seno;
-        }
-        intensidadesEmPontos(X, Y, c, M, perfil.contagem);
-        for (std::size_t j = 0; j < N; ++j) totais[j] = finito(totais[j] + M[j]);
+        perfil.Dist.push_back(-campo.x(i));
+        const auto linha = campo.intensidades.linha(i);
+        for (std::size_t j = 0; j < N; ++j) totais[j] = finito(totais[j] + linha[j]);
     }
 
     perfil.Lam.reserve(N);

@@ -1,27 +1,10 @@
 #pragma once
 
-#include "simulacao/modelo_vento.h"
+#include "simulacao/campo_intensidades.h"
 
 #include <vector>
 
 namespace varenta {
-
-/// A run of the sprinkler: the conditions of every point, and how the field is laid out and travelled.
-struct DadosDaSimulação {
-    CondiçõesDoPonto condições;
-    /// Spacing of the field's points, m.
-    float S;
-    /// Speed of travel, m/h.
-    double V;
-};
-
-/// A field larger than this a side is refused ("Memória insuficiente"): no sprinkler needs it, and a wild set
-/// of parameters would otherwise keep the program at work without end.
-inline constexpr int maiorLadoDoCampo = 10000;
-
-/// The number of points a side of the square field, even, at least 2: from the reach it grows until a probe
-/// straight downwind of the sprinkler stays dry.
-int ladoDoCampo(const DadosDaSimulação& dados);
 
 /// The depths that a pass of the sprinkler leaves across its lane.
 struct PerfilTransversal {

@@ -1,13 +1,13 @@
 #include "uniformidade/form4.h"
 
-#include "aspersor/form1.h"
 #include "comum/ajuda.h"
-#include "comum/erro_execucao.h"
 #include "comum/numeros.h"
 #include "comum/operacoes.h"
 #include "comum/plataforma.h"
 #include "simulacao/form7.h"
+#include "uniformidade/caminho.h"
 #include "uniformidade/graficos_form4.h"
+#include "uniformidade/relatorios.h"
 #include "uniformidade/sobreposicao.h"
 #include "uniformidade/uniformidade_centro.h"
 
@@ -32,12 +32,7 @@ bool espaçamentoAceito() {
 
 void form4_Load() { associarAjuda(); }
 
-void form4_Fechar() {
-    form4.descarregar();
-    form7.descarregar();
-    form1.descarregar();
-    voltarAoMenu();
-}
+void form4_Fechar() { fecharCaminho(); }
 
 void form4_MouseMove() { form4.ponteiro = Ponteiro::padrão; }
 
@@ -69,16 +64,7 @@ void form4_Command9_Click() {
     form4->Command10.habilitado = true;
 }
 
-void form4_cmdSalvar_Click() {
-    const auto caminho =
-        plataforma::arquivoParaSalvar({.filtro = "Text files|*.TXT|All files|*.*", .extensãoPadrão = "TXT"});
-    if (!caminho || caminho->empty()) return;
-    try {
-        salvarRelatórioDoCentro(*caminho);
-    } catch (const ErroExecucao& e) {
-        plataforma::mensagem(std::string{"O arquivo não pôde ser salvo: "} + e.what() + "!");
-    }
-}
+void form4_cmdSalvar_Click() { salvarRelatório(relatórioDoCentro); }
 
 void form4_Picture1_MouseMove(double x, double y) {
     constexpr auto& malha = malhaDaSobreposição;

@@ -8,6 +8,7 @@ void form4_Load();
 void form4_Fechar();
 void form4_MouseMove();
 void form4_cmbEspaçamento_Change();
+void form4_Command5_Click();
 void form4_Command7_Click();
 void form4_Command8_Click();
 void form4_Command9_Click();
@@ -56,7 +57,7 @@ struct RegistroForm4 {
     Botao Command7{.texto = "<< &Voltar", .aoClicar = form4_Command7_Click};
     Botao Command8{.texto = "Calcular Maior CUC", .aoClicar = form4_Command8_Click};
     Botao Command9{.texto = "Sobrepor", .aoClicar = form4_Command9_Click, .habilitado = false};
-    Botao Command5{.texto = "&Avançar >>", .habilitado = false};
+    Botao Command5{.texto = "&Avançar >>", .aoClicar = form4_Command5_Click, .habilitado = false};
     Botao Command10{.texto = "&Avançar >>", .habilitado = false};
 
     RegistroForm4() {

@@ -6,6 +6,7 @@
 #include "simulacao/form7.h"
 #include "simulacao/perfil_transversal.h"
 #include "uniformidade/form4.h"
+#include "uniformidade/form5.h"
 #include "uniformidade/graficos_form4.h"
 #include "uniformidade/uniformidade_centro.h"
 
@@ -22,6 +23,7 @@ void form7_Command2_Click() {
     // The spacing stands here, and not the angle, until the button that goes on writes it again.
     form4->Label3.texto = "Ângulo: " + form7->Combo2.texto + " graus";
     form4->Label4.texto = "Velocidade: " + form7->Text1.texto + " m/h";
+    form5->Label52.texto = form4->Label4.texto;
     form4->Label8.texto = "Vazão: " + form1->lblVazão.texto + " m³/h";
     form4->Label7.texto = "Raio: " + form1->lblRaioAlcance.texto + " m";
 }

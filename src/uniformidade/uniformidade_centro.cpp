@@ -1,10 +1,10 @@
 #include "uniformidade/uniformidade_centro.h"
 
-#include "comum/arquivo_texto.h"
 #include "comum/numeros.h"
 #include "comum/operacoes.h"
 #include "simulacao/form7.h"
 #include "uniformidade/form4.h"
+#include "uniformidade/form5.h"
 #include "uniformidade/graficos_form4.h"
 #include "uniformidade/sobreposicao.h"
 
@@ -160,39 +160,9 @@ void sobreporEspacamento() {
     f.Label17.texto = Format(valores.media, "##0.00");
     f.Label33.texto = Format(valores.UD, "##0.00");
     f.Label16.texto = Format(valores.CUC, "##0.00");
+    form5->Label7.texto = f.Label17.texto;
+    form5->Label5.texto = f.Label16.texto;
     desenharSobreposição(soma, perfil.s);
-}
-
-void salvarRelatórioDoCentro(const std::string& caminho) {
-    auto& f = *form4.operator->();
-    std::string texto;
-    const auto linha = [&](std::string_view conteúdo) {
-        texto += conteúdo;
-        texto += "\r\n";
-    };
-    linha("VARENTA - Versão 4.0");
-    linha("");
-    linha(f.Caption);
-    linha("");
-    for (const auto* rótulo : {&f.Label1, &f.Label2, &f.Label3, &f.Label4, &f.Label8, &f.Label7})
-        linha(rótulo->texto);
-    linha("");
-    linha(f.Label37.texto);
-    linha(f.Label38.texto);
-    linha("");
-    // The first empty row ends the table and is written too, also where the grid has no such row.
-    const auto& grade = f.flexGrid_A;
-    bool vazia = false;
-    for (int l = 0; !vazia; ++l) {
-        vazia = l >= grade.linhas || grade.célula(l, 0).empty();
-        for (int c = 0; c < 4; ++c) {
-            if (l < grade.linhas) texto += grade.célula(l, c);
-            texto += '\t';
-        }
-        linha("");
-    }
-    linha("");
-    gravarTexto(caminho, texto);
 }
 
 } // namespace varenta

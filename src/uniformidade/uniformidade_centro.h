@@ -18,7 +18,4 @@ void calcularMaiorCUC();
 /// the chart. Raises as the statistics do, and "Estouro" for fewer than two positions.
 void sobreporEspacamento();
 
-/// Writes the report of `Form4` to a file. Raises a run-time error with the reason where it can't be written.
-void salvarRelatórioDoCentro(const std::string& caminho);
-
 } // namespace varenta

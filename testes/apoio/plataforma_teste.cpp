@@ -8,12 +8,14 @@
 namespace varenta::teste {
 
 std::vector<std::string> caderno;
+std::vector<bool> ampulhetas;
 std::deque<bool> respostas;
 std::deque<std::optional<std::string>> arquivos;
 
 void recomeçar() {
     iniciarSistema();
     caderno.clear();
+    ampulhetas.clear();
     respostas.clear();
     arquivos.clear();
 }
@@ -50,6 +52,7 @@ bool perguntar(std::string_view texto) {
 }
 
 void avisar(std::string_view texto) { anotar("aviso", texto); }
+void mostrarAmpulheta(bool mostrar) { ampulhetas.push_back(mostrar); }
 void erroDeExecucao(std::string_view texto) { anotar("erro", texto); }
 
 std::optional<std::string> arquivoParaAbrir(const DialogoArquivo& diálogo) {

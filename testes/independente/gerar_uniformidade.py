@@ -1,9 +1,7 @@
 #!/usr/bin/env python3
 """Writes casos/uniformidade-*: the road from Form7 to the strip's table, maps and efficiencies.
 
-    python3 gerar_uniformidade.py [--centro] [FOLDER]
-
-With --centro each setting ends at Form4, and the files are casos/centro-*.
+    python3 gerar_uniformidade.py [FOLDER]
 
 What each roteiro must print comes from calculo.py and uniformidade.py. The draw has a fixed seed: two
 runs give the same bytes. Settings of which the wind model leaves a single point without physical
@@ -34,49 +32,6 @@ PEDIDOS = {"Combo1": "Insira um valor de comprimento inicial (Ci) de faixa, entr
 SEM_COMPRIMENTO = {"chkParada": "Insira uma distância inicial!", "Check2": "Insira uma distância final!"}
 INICIO = dict(combo="Combo1", comprimento="txtOutro", parada="chkParada", tempo="txtParada", textos=COMECOS)
 FIM = dict(combo="Combo2", comprimento="Text3", parada="Check2", tempo="Text4", textos=FINS)
-
-
-class SaidaCalada(list):
-    """An expected output that takes nothing while a step of the cut road is left out."""
-
-    calada = False
-
-    def append(self, linha):
-        if not self.calada:
-            super().append(linha)
-
-    def __iadd__(self, linhas):
-        for linha in linhas:
-            self.append(linha)
-        return self
-
-
-class CasoAteOCentro(Caso):
-    """A roteiro that leaves out every screen beyond Form4, and closes there."""
-
-    ALEM = ("Form5.", "Form8.", "Form9.", "Form_graf", "Form4.Command5", "Form7.Command3")
-
-    def __init__(self, titulo):
-        super().__init__(titulo)
-        self.saida = SaidaCalada()
-
-    def _alem(self, controle):
-        self.saida.calada = controle.startswith(self.ALEM)
-        return self.saida.calada
-
-    def faz(self, comando, *argumentos):
-        if argumentos and argumentos[0] == "Form5.Command2":
-            argumentos = ("Form4.Command4",)
-        if not (argumentos and self._alem(argumentos[0])):
-            super().faz(comando, *argumentos)
-
-    def mostra(self, controle, valor, base=0):
-        if not self._alem(controle):
-            super().mostra(controle, valor, base)
-
-    def mostraGrade(self, controle, cabecalho, linhas):
-        if not self._alem(controle):
-            super().mostraGrade(controle, cabecalho, linhas)
 
 
 class Inviavel(Exception):
@@ -650,21 +605,18 @@ def cantosDaFaixa(caso, contas):
 
 
 def main():
-    argumentos = [a for a in sys.argv[1:] if a != "--centro"]
-    inteiro = len(argumentos) == len(sys.argv) - 1
-    caso_de, prefixo = (Caso, "uniformidade") if inteiro else (CasoAteOCentro, "centro")
-    pasta = Path(argumentos[0]) if argumentos else Path(__file__).parent / "casos"
+    pasta = Path(sys.argv[1]) if len(sys.argv) > 1 else Path(__file__).parent / "casos"
     pasta.mkdir(parents=True, exist_ok=True)
     contas = {}
 
     def gravar(nome, caso):
-        (pasta / f"{prefixo}-{nome}.roteiro").write_bytes(("\n".join(caso.comandos) + "\n").encode())
-        (pasta / f"{prefixo}-{nome}.esperado").write_bytes(("\n".join(caso.saida) + "\n").encode())
+        (pasta / f"uniformidade-{nome}.roteiro").write_bytes(("\n".join(caso.comandos) + "\n").encode())
+        (pasta / f"uniformidade-{nome}.esperado").write_bytes(("\n".join(caso.saida) + "\n").encode())
         print(nome, flush=True)
 
     for nome, titulo, escrever in (("centro", "Uniformity at the centre: chosen settings", cantosDoCentro),
                                    ("faixa", "Strip: chosen settings", cantosDaFaixa)):
-        caso = caso_de(titulo)
+        caso = Caso(titulo)
         escrever(caso, contas)
         gravar(nome, caso)
 
@@ -677,7 +629,7 @@ def main():
         s.embaralhar(pares)
         feitos = 0
         for parte in range(1, partes + 1):
-            caso = caso_de(f"Uniformity: drawn settings of the {modelo}, {parte} of {partes}")
+            caso = Caso(f"Uniformity: drawn settings of the {modelo}, {parte} of {partes}")
             for _ in range(quantos):
                 numero += 1
                 escreverCenario(s, caso, numero, modelo, pares[feitos % len(pares)], contas)

@@ -1,0 +1,80 @@
+#include "simulacao/campo_intensidades.h"
+
+#include "comum/erro_execucao.h"
+#include "comum/numeros.h"
+
+#include <array>
+#include <bit>
+#include <cmath>
+#include <cstdint>
+#include <optional>
+#include <vector>
+
+namespace varenta {
+namespace {
+
+CampoDeIntensidades calcularCampo(const DadosDaSimulação& dados, std::size_t lado) {
+    const auto& c = dados.condições;
+    const double cosseno = std::cos(c.rotVento), seno = std::sin(c.rotVento);
+    CampoDeIntensidades campo{Matriz{lado, lado}, dados.S, {}};
+    std::vector<double> y(lado), X(lado), Y(lado);
+    for (std::size_t i = 0; i < lado; ++i) y[i] = campo.y(i);
+    for (std::size_t j = 0; j < lado; ++j) {
+        const double x = campo.x(j);
+        for (std::size_t i = 0; i < lado; ++i) {
+            X[i] = x * cosseno - y[i] * seno;
+            Y[i] = y[i] * cosseno + x * seno;
+        }
+        intensidadesEmPontos(X, Y, c, campo.intensidades.linha(j), campo.contagem);
+    }
+    return campo;
+}
+
+/// All that a field is made from, bit by bit.
+struct Chave {
+    std::array<std::uint64_t, 16> números;
+    std::array<std::uint64_t, pontosDoPerfil> intensidades;
+
+    bool operator==(const Chave&) const = default;
+};
+
+Chave chaveDo(const DadosDaSimulação& dados, std::size_t lado) {
+    const auto& c = dados.condições;
+    const std::array<double, 16> números = {
+        c.R,          c.A,          c.B,           c.C,
+        c.D,          c.E,          c.F,           c.W,
+        c.anguloJato, c.rotVento,   c.anguloSecoI, c.anguloSecoII,
+        c.rotacao,    c.anguloGiro, dados.S,       static_cast<double>(lado)};
+    return {std::bit_cast<std::array<std::uint64_t, 16>>(números),
+            std::bit_cast<std::array<std::uint64_t, pontosDoPerfil>>(c.intensidades)};
+}
+
+} // namespace
+
+int ladoDoCampo(const DadosDaSimulação& dados) {
+    const double S = dados.S;
+    auto sonda = dados.condições;
+    sonda.anguloGiro = 360;
+    double n = Int(dividir(sonda.R, S));
+    double intensidade = 0;
+    do {
+        n += 1;
+        if (2 * n > maiorLadoDoCampo) throw ErroExecucao{memóriaInsuficiente};
+        const double p = S * (n - 0.5);
+        intensidade = intensidadeEmPonto(-p, S / 2, sonda).valor;
+    } while (intensidade > 0);
+    return 2 * static_cast<int>(n);
+}
+
+const CampoDeIntensidades& campoDeIntensidades(const DadosDaSimulação& dados, std::size_t lado) {
+    struct Guardado {
+        Chave chave;
+        CampoDeIntensidades campo;
+    };
+    static std::optional<Guardado> último;
+    const auto chave = chaveDo(dados, lado);
+    if (!último || último->chave != chave) último = Guardado{chave, calcularCampo(dados, lado)};
+    return último->campo;
+}
+
+} // namespace varenta

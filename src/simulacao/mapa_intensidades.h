@@ -1,0 +1,20 @@
+#pragma once
+
+#include "simulacao/campo_intensidades.h"
+
+namespace varenta {
+
+/// The rows and the columns of the map of the plane.
+inline constexpr std::size_t ladoDoMapa = 200;
+
+/// The field sampled at `ladoDoMapa` x `ladoDoMapa` places by linear interpolation, along the lane first and
+/// then across it. Row 1 is ahead of the sprinkler, column 1 to its left. The places of the samples are found
+/// by adding the step up, so the last ones may fall past the last cell through rounding; they stay 0.
+/// Raises "Índice fora dos limites" where the field has more cells than there are samples.
+Matriz amostrarCampo(const CampoDeIntensidades& campo);
+
+/// Draws the map of intensities of the catalogue sprinkler of `form1` on `Form_grafVen`, and disables
+/// `Form7`.
+void desenharIntensidades();
+
+} // namespace varenta

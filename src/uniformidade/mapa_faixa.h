@@ -1,0 +1,9 @@
+#pragma once
+
+namespace varenta {
+
+/// Draws the strip's depths as a map on `Form_grafFinal`, for the catalogue sprinkler of `form1`. False where
+/// the lengths of the strip's ends are refused; nothing has changed then. Raises as the strip does.
+bool mapaFaixa();
+
+} // namespace varenta
