@@ -22,6 +22,7 @@ void mostrarAmpulheta(bool) {}
 void erroDeExecucao(std::string_view texto) { parar(texto); }
 std::optional<std::string> arquivoParaAbrir(const DialogoArquivo& diálogo) { parar(diálogo.filtro); }
 std::optional<std::string> arquivoParaSalvar(const DialogoArquivo& diálogo) { parar(diálogo.filtro); }
+void ajuda(std::optional<int>) { parar("ajuda"); }
 void encerrar() { parar("encerrado"); }
 
 } // namespace varenta::plataforma

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "comum/ajuda.h"
 #include "comum/tela.h"
 
 namespace varenta {
@@ -47,7 +48,7 @@ struct RegistroForm1 {
     Rotulo Label16{.texto = "i ="};
 
     Botao Command1{.texto = "&Fechar", .aoClicar = form1_Command1_Click};
-    Botao Command2{.texto = "Ajuda"};
+    Botao Command2{.texto = "Ajuda", .aoClicar = mostrarAjuda<topicos::form1>};
     Botao Command3{.texto = "&Avançar >>", .aoClicar = form1_Command3_Click};
 
     template <class Visita>
@@ -78,7 +79,10 @@ struct RegistroForm1 {
     }
 };
 
-inline Tela<RegistroForm1> form1{
-    "form1", {.aoCarregar = form1_Load, .aoFechar = form1_Fechar, .aoMoverMouse = form1_MouseMove}};
+inline Tela<RegistroForm1> form1{"form1",
+                                 {.aoCarregar = form1_Load,
+                                  .aoFechar = form1_Fechar,
+                                  .aoMoverMouse = form1_MouseMove,
+                                  .tópicoDaAjuda = topicos::form1}};
 
 } // namespace varenta

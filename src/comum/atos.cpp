@@ -1,5 +1,6 @@
 #include "comum/atos.h"
 
+#include "comum/ajuda.h"
 #include "comum/operacoes.h"
 #include "comum/planilha.h"
 
@@ -171,6 +172,17 @@ void moverMouse(TelaBase& tela) {
     soltar();
     exigirTela(tela);
     if (tela.eventos().aoMoverMouse) executarAto(tela.eventos().aoMoverMouse);
+}
+
+void pedirAjuda(TelaBase& tela) {
+    soltar();
+    exigirTela(tela);
+    executarAto([&] {
+        if (const int tópico = tela.eventos().tópicoDaAjuda)
+            plataforma::ajuda(tópico);
+        else
+            mostrarÍndiceDaAjuda();
+    });
 }
 
 void fechar(TelaBase& tela) {

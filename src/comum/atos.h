@@ -84,6 +84,9 @@ void moverMouse(const Alvo& alvo, double x, double y);
 /// Moves the mouse over a screen beside its drawings.
 void moverMouse(TelaBase& tela);
 
+/// Asks for the help of a screen, as F1 does.
+void pedirAjuda(TelaBase& tela);
+
 /// The close box of the screen's window.
 void fechar(TelaBase& tela);
 

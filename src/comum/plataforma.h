@@ -28,6 +28,8 @@ void erroDeExecucao(std::string_view texto);
 /// The path chosen, in UTF-8; nothing where the dialog was cancelled.
 std::optional<std::string> arquivoParaAbrir(const DialogoArquivo& diálogo);
 std::optional<std::string> arquivoParaSalvar(const DialogoArquivo& diálogo);
+/// Shows a topic of the help, without one its index. Raises a run-time error with the reason where it can't.
+void ajuda(std::optional<int> tópico);
 /// The program is to end: the main window was closed.
 void encerrar();
 

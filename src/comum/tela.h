@@ -17,6 +17,8 @@ struct EventosTela {
     Acao aoFechar = nullptr;
     /// The mouse moves over the screen beside its drawings.
     Acao aoMoverMouse = nullptr;
+    /// What F1 shows over it; 0 for the index.
+    int tópicoDaAjuda = 0;
 };
 
 /// What all screens have in common, for the front ends and for the code that closes them all.

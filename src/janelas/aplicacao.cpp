@@ -11,7 +11,11 @@
 #include <exception>
 
 /// Outside of any namespace, as the macro asks.
-static void carregarRecursos() { Q_INIT_RESOURCE(recursos); }
+static void carregarRecursos() {
+    Q_INIT_RESOURCE(recursos);
+    Q_INIT_RESOURCE(ajuda);
+    Q_INIT_RESOURCE(telas_da_ajuda);
+}
 
 namespace {
 

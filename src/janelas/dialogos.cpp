@@ -1,6 +1,7 @@
 #include "janelas/dialogos.h"
 
 #include "comum/plataforma.h"
+#include "janelas/janela_ajuda.h"
 #include "roteiro/interprete.h"
 
 #include <QApplication>
@@ -71,6 +72,7 @@ Dialogos dialogosDoQt() {
                 diálogo.setDefaultSuffix(extensãoPadrão);
                 return escolherArquivo(diálogo);
             },
+        .ajuda = mostrarJanelaDaAjuda,
     };
 }
 
@@ -138,6 +140,11 @@ std::optional<std::string> arquivoParaSalvar(const DialogoArquivo& diálogo) {
     preparar();
     return caminho(
         dialogos().arquivoParaSalvar(filtrosDoQt(qtexto(diálogo.filtro)), qtexto(diálogo.extensãoPadrão)));
+}
+
+void ajuda(std::optional<int> tópico) {
+    if (auto* roteiro = Interprete::ativo()) return roteiro->ajuda(tópico);
+    dialogos().ajuda(tópico);
 }
 
 void encerrar() {

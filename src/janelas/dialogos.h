@@ -18,6 +18,8 @@ struct Dialogos {
     std::function<std::optional<QString>(const QString& filtros)> arquivoParaAbrir;
     std::function<std::optional<QString>(const QString& filtros, const QString& extensãoPadrão)>
         arquivoParaSalvar;
+    /// Shows a topic of the help, without one its index. Raises a run-time error where it can't.
+    std::function<void(std::optional<int> tópico)> ajuda;
 };
 
 /// Those in use, Qt's own to begin with.

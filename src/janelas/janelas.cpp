@@ -5,6 +5,7 @@
 #include "janelas/vinculo.h"
 
 #include <QScreen>
+#include <QShortcut>
 
 #include <algorithm>
 
@@ -78,6 +79,8 @@ void Janelas::conferirExistência() {
         if (!modelo.tela->carregada() || vínculos_.contains(modelo.tela)) continue;
         auto janela = modelo.criar();
         vínculos_.emplace(modelo.tela, new Vinculo{*modelo.tela, *janela, *this});
+        connect(new QShortcut{QKeySequence{QKeySequence::HelpContents}, janela.get()}, &QShortcut::activated,
+                this, [this, tela = modelo.tela] { agir([tela] { varenta::atos::pedirAjuda(*tela); }); });
         janela.release();
     }
 }

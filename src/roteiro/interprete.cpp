@@ -298,6 +298,10 @@ void Interprete::avisar(std::string_view texto) { imprimir("aviso: " + escapar(t
 
 void Interprete::erroDeExecucao(std::string_view texto) { imprimir("erro: " + escapar(texto) + '\n'); }
 
+void Interprete::ajuda(std::optional<int> tópico) {
+    imprimir("ajuda: " + (tópico ? std::to_string(*tópico) : std::string{"índice"}) + '\n');
+}
+
 std::optional<std::string> Interprete::arquivoParaAbrir() {
     const auto caminho = tirarResposta(arquivos_, "o diálogo do arquivo para abrir");
     imprimir("arquivo para abrir: " + caminho.value_or("cancelado") + '\n');

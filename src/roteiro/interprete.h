@@ -58,6 +58,7 @@ class Interprete {
     bool perguntar(std::string_view texto);
     void avisar(std::string_view texto);
     void erroDeExecucao(std::string_view texto);
+    void ajuda(std::optional<int> tópico);
     std::optional<std::string> arquivoParaAbrir();
     std::optional<std::string> arquivoParaSalvar(const plataforma::DialogoArquivo& diálogo);
     /// The main window was closed: every command from here on is refused.

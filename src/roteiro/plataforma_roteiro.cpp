@@ -32,6 +32,8 @@ std::optional<std::string> arquivoParaSalvar(const DialogoArquivo& diálogo) {
     return ativo().arquivoParaSalvar(diálogo);
 }
 
+void ajuda(std::optional<int> tópico) { ativo().ajuda(tópico); }
+
 void encerrar() { ativo().encerrar(); }
 
 } // namespace varenta::plataforma

@@ -5,6 +5,7 @@
 #include "comum/ajuda.h"
 #include "comum/operacoes.h"
 #include "comum/plataforma.h"
+#include "shell/form6.h"
 #include "shell/sistema.h"
 
 namespace varenta {
@@ -34,5 +35,10 @@ void form3_Fechar() {
 void form3_TX15B_Click() { abrirAspersor(modeloTX15); }
 void form3_TX20B_Click() { abrirAspersor(modeloTX20); }
 void form3_TX30B_Click() { abrirAspersor(modeloTX30); }
+
+void form3_varenta_Click() {
+    form6.mostrar();
+    form3.esconder();
+}
 
 } // namespace varenta

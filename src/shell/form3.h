@@ -1,5 +1,6 @@
 #pragma once
 
+#include "comum/ajuda.h"
 #include "comum/tela.h"
 
 namespace varenta {
@@ -9,6 +10,7 @@ void form3_Fechar();
 void form3_TX15B_Click();
 void form3_TX20B_Click();
 void form3_TX30B_Click();
+void form3_varenta_Click();
 
 /// The main window: a picture and the menu from which every use of the system starts.
 struct RegistroForm3 {
@@ -37,8 +39,8 @@ struct RegistroForm3 {
     ItemMenu TX30d{.texto = "TX30", .nível = 3};
     ItemMenu OuAsp_Auto{.texto = "Outro Aspersor", .nível = 2};
     ItemMenu ajuda{.texto = "&Ajuda", .nível = 0, .abreSubmenu = true};
-    ItemMenu varenta{.texto = "Sobre o Varenta", .nível = 1};
-    ItemMenu ajudaProg{.texto = "Ajuda do Programa", .nível = 1};
+    ItemMenu varenta{.texto = "Sobre o Varenta", .nível = 1, .aoClicar = form3_varenta_Click};
+    ItemMenu ajudaProg{.texto = "Ajuda do Programa", .nível = 1, .aoClicar = mostrarÍndiceDaAjuda};
     /// The picture in the middle of the window; the front end places it.
     Desenho Picture1;
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "comum/ajuda.h"
 #include "comum/tela.h"
 
 namespace varenta {
@@ -112,7 +113,7 @@ struct RegistroForm7 {
     Botao cmdUniformidade{
         .texto = "&Avançar >>", .aoClicar = form7_cmdUniformidade_Click, .habilitado = false};
     Botao Command9{.texto = "&Avançar >>", .habilitado = false};
-    Botao Command5{.texto = "Ajuda"};
+    Botao Command5{.texto = "Ajuda", .aoClicar = mostrarAjuda<topicos::form7>};
     Botao cmdSair{.texto = "&Fechar", .aoClicar = form7_cmdSair_Click};
 
     template <class Visita>
@@ -169,7 +170,10 @@ struct RegistroForm7 {
     }
 };
 
-inline Tela<RegistroForm7> form7{
-    "Form7", {.aoCarregar = form7_Load, .aoFechar = form7_Fechar, .aoMoverMouse = form7_MouseMove}};
+inline Tela<RegistroForm7> form7{"Form7",
+                                 {.aoCarregar = form7_Load,
+                                  .aoFechar = form7_Fechar,
+                                  .aoMoverMouse = form7_MouseMove,
+                                  .tópicoDaAjuda = topicos::form7}};
 
 } // namespace varenta

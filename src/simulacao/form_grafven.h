@@ -1,5 +1,6 @@
 #pragma once
 
+#include "comum/ajuda.h"
 #include "comum/tela.h"
 
 namespace varenta {
@@ -42,7 +43,9 @@ struct RegistroFormGrafVen {
     }
 };
 
-inline Tela<RegistroFormGrafVen> form_grafVen{
-    "Form_grafVen", {.aoCarregar = form_grafVen_Load, .aoFechar = form_grafVen_Command1_Click}};
+inline Tela<RegistroFormGrafVen> form_grafVen{"Form_grafVen",
+                                              {.aoCarregar = form_grafVen_Load,
+                                               .aoFechar = form_grafVen_Command1_Click,
+                                               .tópicoDaAjuda = topicos::form_grafVen}};
 
 } // namespace varenta

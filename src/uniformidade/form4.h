@@ -1,5 +1,6 @@
 #pragma once
 
+#include "comum/ajuda.h"
 #include "comum/tela.h"
 
 namespace varenta {
@@ -51,7 +52,7 @@ struct RegistroForm4 {
     Rotulo Label21{.texto = "d ="};
     Rotulo Label30{.texto = "I ="};
 
-    Botao Command1{.texto = "Ajuda"};
+    Botao Command1{.texto = "Ajuda", .aoClicar = mostrarAjuda<topicos::form4>};
     Botao Command4{.texto = "&Fechar", .aoClicar = form4_Fechar};
     Botao cmdSalvar{.texto = "&Salvar", .aoClicar = form4_cmdSalvar_Click, .habilitado = false};
     Botao Command7{.texto = "<< &Voltar", .aoClicar = form4_Command7_Click};
@@ -103,7 +104,10 @@ struct RegistroForm4 {
     }
 };
 
-inline Tela<RegistroForm4> form4{
-    "Form4", {.aoCarregar = form4_Load, .aoFechar = form4_Fechar, .aoMoverMouse = form4_MouseMove}};
+inline Tela<RegistroForm4> form4{"Form4",
+                                 {.aoCarregar = form4_Load,
+                                  .aoFechar = form4_Fechar,
+                                  .aoMoverMouse = form4_MouseMove,
+                                  .tópicoDaAjuda = topicos::form4}};
 
 } // namespace varenta

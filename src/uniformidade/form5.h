@@ -1,5 +1,6 @@
 #pragma once
 
+#include "comum/ajuda.h"
 #include "comum/tela.h"
 
 namespace varenta {
@@ -78,7 +79,7 @@ struct RegistroForm5 {
     Botao Command12{.texto = "Eficiências", .aoClicar = form5_Command12_Click, .habilitado = false};
     Botao Command15{.texto = "Gráfico", .aoClicar = form5_Command15_Click, .habilitado = false};
     Botao Command16{.texto = "Gráfico", .habilitado = false};
-    Botao Command4{.texto = "Ajuda"};
+    Botao Command4{.texto = "Ajuda", .aoClicar = mostrarAjuda<topicos::form5>};
     Botao Command2{.texto = "&Fechar", .aoClicar = form5_Fechar};
     Botao Command5{.texto = "<< &Voltar", .aoClicar = form5_Command5_Click};
 
@@ -144,7 +145,10 @@ struct RegistroForm5 {
     }
 };
 
-inline Tela<RegistroForm5> form5{
-    "Form5", {.aoCarregar = form5_Load, .aoFechar = form5_Fechar, .aoMoverMouse = form5_MouseMove}};
+inline Tela<RegistroForm5> form5{"Form5",
+                                 {.aoCarregar = form5_Load,
+                                  .aoFechar = form5_Fechar,
+                                  .aoMoverMouse = form5_MouseMove,
+                                  .tópicoDaAjuda = topicos::form5}};
 
 } // namespace varenta

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "comum/ajuda.h"
 #include "comum/tela.h"
 
 namespace varenta {
@@ -31,6 +32,7 @@ struct RegistroForm8 {
     }
 };
 
-inline Tela<RegistroForm8> form8{"Form8", {.aoCarregar = form8_Load, .aoFechar = form8_Command3_Click}};
+inline Tela<RegistroForm8> form8{
+    "Form8", {.aoCarregar = form8_Load, .aoFechar = form8_Command3_Click, .tópicoDaAjuda = topicos::form8}};
 
 } // namespace varenta

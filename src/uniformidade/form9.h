@@ -1,5 +1,6 @@
 #pragma once
 
+#include "comum/ajuda.h"
 #include "comum/tela.h"
 
 namespace varenta {
@@ -38,7 +39,7 @@ struct RegistroForm9 {
     Botao Command1{.texto = "&Salvar", .aoClicar = form9_Command1_Click};
     Botao Command2{.texto = "&Fechar", .aoClicar = form9_Esconder};
     Botao Command3{.texto = "<< &Voltar", .aoClicar = form9_Esconder};
-    Botao Command4{.texto = "&Ajuda"};
+    Botao Command4{.texto = "&Ajuda", .aoClicar = mostrarAjuda<topicos::form9>};
 
     template <class Visita>
     void percorrer(Visita&& visita) {
@@ -62,7 +63,10 @@ struct RegistroForm9 {
     }
 };
 
-inline Tela<RegistroForm9> form9{
-    "Form9", {.aoCarregar = form9_Load, .aoFechar = form9_Esconder, .aoMoverMouse = form9_MouseMove}};
+inline Tela<RegistroForm9> form9{"Form9",
+                                 {.aoCarregar = form9_Load,
+                                  .aoFechar = form9_Esconder,
+                                  .aoMoverMouse = form9_MouseMove,
+                                  .tópicoDaAjuda = topicos::form9}};
 
 } // namespace varenta

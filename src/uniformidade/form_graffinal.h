@@ -1,5 +1,6 @@
 #pragma once
 
+#include "comum/ajuda.h"
 #include "comum/tela.h"
 
 namespace varenta {
@@ -41,7 +42,9 @@ struct RegistroFormGrafFinal {
     }
 };
 
-inline Tela<RegistroFormGrafFinal> form_grafFinal{
-    "Form_grafFinal", {.aoCarregar = form_grafFinal_Load, .aoFechar = form_grafFinal_Command1_Click}};
+inline Tela<RegistroFormGrafFinal> form_grafFinal{"Form_grafFinal",
+                                                  {.aoCarregar = form_grafFinal_Load,
+                                                   .aoFechar = form_grafFinal_Command1_Click,
+                                                   .tópicoDaAjuda = topicos::form_grafFinal}};
 
 } // namespace varenta

@@ -1,5 +1,6 @@
 #include "apoio/plataforma_teste.h"
 
+#include "comum/erro_execucao.h"
 #include "comum/plataforma.h"
 #include "shell/sistema.h"
 
@@ -9,6 +10,7 @@ namespace varenta::teste {
 
 std::vector<std::string> caderno;
 std::vector<bool> ampulhetas;
+std::string falhaDaAjuda;
 std::deque<bool> respostas;
 std::deque<std::optional<std::string>> arquivos;
 
@@ -16,6 +18,7 @@ void recomeçar() {
     iniciarSistema();
     caderno.clear();
     ampulhetas.clear();
+    falhaDaAjuda.clear();
     respostas.clear();
     arquivos.clear();
 }
@@ -63,6 +66,11 @@ std::optional<std::string> arquivoParaAbrir(const DialogoArquivo& diálogo) {
 std::optional<std::string> arquivoParaSalvar(const DialogoArquivo& diálogo) {
     anotar("salvar", diálogo.filtro + " " + diálogo.extensãoPadrão);
     return próxima(arquivos, diálogo.filtro);
+}
+
+void ajuda(std::optional<int> tópico) {
+    if (!falhaDaAjuda.empty()) throw ErroExecucao{falhaDaAjuda};
+    anotar("ajuda", tópico ? std::to_string(*tópico) : "índice");
 }
 
 void encerrar() { caderno.push_back("encerrar"); }

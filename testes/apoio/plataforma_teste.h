@@ -9,10 +9,13 @@
 namespace varenta::teste {
 
 /// Everything told to the person, in order: "mensagem: ...", "pergunta: ...", "aviso: ...", "erro: ...",
-/// "abrir: <filter>", "salvar: <filter> <ending>", "encerrar".
+/// "abrir: <filter>", "salvar: <filter> <ending>", "encerrar",
+/// "ajuda: <topic>".
 extern std::vector<std::string> caderno;
 /// The hourglass was shown (true) or taken away (false), in order.
 extern std::vector<bool> ampulhetas;
+/// What the help fails with; empty where it opens.
+extern std::string falhaDaAjuda;
 extern std::deque<bool> respostas;
 /// Paths for the next file dialogs; nothing is a cancelled dialog.
 extern std::deque<std::optional<std::string>> arquivos;

@@ -409,11 +409,6 @@ TEST_F(TelaDoAspersor, CarregarNomeiaOArquivoDeAjuda) {
     EXPECT_EQ(arquivoDeAjuda, "C:\\Arquivos de programas\\Varenta\\VARENTA VERSÃO 5.0.hlp");
 }
 
-TEST_F(TelaDoAspersor, AjudaAindaNãoPodeSerClicada) {
-    abrir("TX15B");
-    EXPECT_EQ(recusaDe([&] { clicar("Command2"); }), "form1.Command2 está desabilitado");
-}
-
 TEST_F(TelaDoAspersor, OsTextosFixosDosBotõesEUnidades) {
     abrir("TX15B");
     EXPECT_EQ(form1->Command1.texto, "&Fechar");

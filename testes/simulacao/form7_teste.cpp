@@ -289,10 +289,6 @@ TEST_F(TelaDoPerfilTransversal, FecharPelaCaixaDevolveATelaPrincipal) {
     EXPECT_TRUE(form3.habilitada);
 }
 
-TEST_F(TelaDoPerfilTransversal, AjudaAindaNãoPodeSerClicada) {
-    EXPECT_EQ(recusaDe([&] { clicar("Command5"); }), "Form7.Command5 está desabilitado");
-}
-
 constexpr auto perguntaDoArquivo =
     "pergunta: O arquivo deve estar na extensão: *.TXT separado por tabulações!";
 constexpr auto filtroDoArquivo = "abrir: Arquivos Texto (*.TXT)|*.TXT";
