@@ -18,6 +18,9 @@ void form7_HScroll5_Change();
 void form7_Command1_Click();
 void form7_Command2_Click(); // stands in uniformidade/, whose screens it writes
 void form7_Command4_Click();
+void form7_Command6_Click();
+void form7_Command8_Click();        // stands in uniformidade/
+void form7_Command9_Click();        // stands in uniformidade/
 void form7_cmdUniformidade_Click(); // stands in uniformidade/
 void form7_cmdSair_Click();
 void form7_Picture2_MouseMove(double x, double y);
@@ -103,14 +106,14 @@ struct RegistroForm7 {
 
     Botao Command1{.texto = "Abrir Arquivo", .aoClicar = form7_Command1_Click};
     Botao Command2{.texto = "&Calcular Lâminas", .aoClicar = form7_Command2_Click};
-    Botao Command8{.texto = "&Calcular Lâminas"};
+    Botao Command8{.texto = "&Calcular Lâminas", .aoClicar = form7_Command8_Click};
     Botao Command3{.texto = "&Gráfico Intensidades", .habilitado = false};
     Botao Command7{.texto = "&Gráfico Intensidades", .habilitado = false};
     Botao Command4{.texto = "<< &Voltar", .aoClicar = form7_Command4_Click};
-    Botao Command6{.texto = "<< &Voltar"};
+    Botao Command6{.texto = "<< &Voltar", .aoClicar = form7_Command6_Click};
     Botao cmdUniformidade{
         .texto = "&Avançar >>", .aoClicar = form7_cmdUniformidade_Click, .habilitado = false};
-    Botao Command9{.texto = "&Avançar >>", .habilitado = false};
+    Botao Command9{.texto = "&Avançar >>", .aoClicar = form7_Command9_Click, .habilitado = false};
     Botao Command5{.texto = "Ajuda"};
     Botao cmdSair{.texto = "&Fechar", .aoClicar = form7_cmdSair_Click};
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "comum/controles.h"
+
 #include <string>
 #include <vector>
 
@@ -17,6 +19,10 @@ void calcularMaiorCUC();
 /// Overlaps the lanes at the spacing of the list's text: fills the table of positions, the three figures and
 /// the chart. Raises as the statistics do, and "Estouro" for fewer than two positions.
 void sobreporEspacamento();
+
+/// The rows of a table as a report writes them, a tab after each cell. The first row with an empty first cell
+/// ends the table and is written too, also where the grid has no such row.
+std::string linhasDoRelatório(const Grade& grade);
 
 /// Writes the report of `Form4` to a file. Raises a run-time error with the reason where it can't be written.
 void salvarRelatórioDoCentro(const std::string& caminho);
