@@ -162,10 +162,12 @@ std::string textoDoEnsaio() {
 
 void escolherListasPadrão() {
     auto& f = *formEC.operator->();
-    escolherItem(f.Combo1, "3");
-    escolherItem(f.Combo2, "6.0");
-    escolherItem(f.Combo4, "2.0");
-    escolherItem(f.Combo3, "20");
+    // All four before the grid is made: what a refused file left in one of them may ask for too large a grid.
+    f.Combo1.texto = paraTexto(3);
+    f.Combo2.texto = Format(6, "0.0");
+    f.Combo4.texto = Format(2, "0.0");
+    f.Combo3.texto = paraTexto(20);
+    gerarPlanilhaEC();
 }
 
 bool abrirArquivoMóvel() {

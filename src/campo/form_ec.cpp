@@ -64,6 +64,7 @@ void gerarPlanilhaEC() {
     if (f.flex_A.linhas != 2 * coletores + 1 || f.flex_A.colunas != linhas + 1) {
         dimensionar(planilha, 2 * coletores + 1, linhas + 1);
         esvaziarDados(f.flex_A);
+        f.flex_A.linhaAtual = f.flex_A.colunaAtual = 1;
         entrarNaCélula(planilha);
     }
     escreverCabeçalhos(linhas, coletores, lerPrefixo(f.Combo4.texto));
