@@ -157,26 +157,17 @@ Avaliação avaliarTX30(const SeleçãoDeAspersor& tela, const ModeloDeAspersor&
     return {R, Imedia, rel, razões};
 }
 
-void desenharPerfilRadial(const SeleçãoDeAspersor& tela, const Avaliação& avaliação) {
-    const auto curva = amostrarCurva(avaliação.x, avaliação.y);
-    const double imax = curva.maior * avaliação.Imedia;
-
-    constexpr auto padrão = "#0.0";
-    const double passoR = lerPrefixo(Format(lerPrefixo(tela.lblRaioAlcance.texto) / 9, padrão));
-    const double escalaR = escreverEscala(tela.Label6, 0, passoR, padrão);
-    const double passoI = lerPrefixo(Format(imax / 5, padrão));
-    const double escalaI = escreverEscala(tela.Label7, 0, passoI, padrão);
-
-    auto& desenho = tela.Picture1;
-    constexpr auto& malha = malhaDoPerfilRadial;
-    prepararGráfico(desenho, malha);
-    desenho.larguraTraco(2);
-    desenharCurva(desenho, cores::azul, curva.amostras.size(), [&](std::size_t n) {
-        const auto& amostra = curva.amostras[n];
-        const double x = malha.esquerda + dividir(malha.largura() * (amostra.x * avaliação.R), escalaR);
-        const double y = malha.base - dividir(malha.altura() * (amostra.y * avaliação.Imedia), escalaI);
-        return PontoDoDesenho{x, y};
-    });
+void desenharAvaliação(const SeleçãoDeAspersor& tela, const Avaliação& avaliação) {
+    desenharPerfilRadial({.Picture1 = tela.Picture1,
+                          .Label6 = tela.Label6,
+                          .Label7 = tela.Label7,
+                          .malha = malhaDoPerfilRadial,
+                          .divisor = 5},
+                         {.x = avaliação.x,
+                          .y = avaliação.y,
+                          .R = avaliação.R,
+                          .alcanceMostrado = lerPrefixo(tela.lblRaioAlcance.texto),
+                          .Imedia = avaliação.Imedia});
 }
 
 } // namespace
@@ -186,15 +177,13 @@ void atualizarAspersor(const SeleçãoDeAspersor& seleção) {
     const auto* modelo = modeloDaCaption(seleção.Caption);
     if (!modelo) return;
     if (modelo == &modeloTX15)
-        desenharPerfilRadial(
-            seleção,
-            avaliarDoisJatos(seleção, *modelo, {vazaoTX15, pressaoEfetivaTX15, raioTX15, perfisTX15}));
+        desenharAvaliação(seleção, avaliarDoisJatos(seleção, *modelo,
+                                                    {vazaoTX15, pressaoEfetivaTX15, raioTX15, perfisTX15}));
     else if (modelo == &modeloTX20)
-        desenharPerfilRadial(
-            seleção,
-            avaliarDoisJatos(seleção, *modelo, {vazaoTX20, pressaoEfetivaTX20, raioTX20, perfisTX20}));
+        desenharAvaliação(seleção, avaliarDoisJatos(seleção, *modelo,
+                                                    {vazaoTX20, pressaoEfetivaTX20, raioTX20, perfisTX20}));
     else
-        desenharPerfilRadial(seleção, avaliarTX30(seleção, *modelo));
+        desenharAvaliação(seleção, avaliarTX30(seleção, *modelo));
 }
 
 SeleçãoDeAspersor seleçãoDeForm1() {

@@ -23,6 +23,15 @@ struct Polegar {
 };
 std::optional<Polegar> polegar;
 
+/// The list whose typed text is not taken over yet.
+std::optional<Alvo> listaDigitada;
+
+/// Whether the control still is the one that it was when an act began: its screen may have closed since.
+bool aindaExiste(const Alvo& alvo) {
+    const auto presente = alvo.tela->achar(alvo.elemento.nome, alvo.elemento.índice);
+    return presente && presente->endereço() == alvo.elemento.endereço();
+}
+
 void exigirTela(const TelaBase& tela) {
     if (!tela.carregada()) throw AtoRecusado{tela.nome() + " não está carregada"};
     if (!tela.visivel) throw AtoRecusado{tela.nome() + " está oculta"};
@@ -91,11 +100,12 @@ void escolher(const Alvo& alvo, std::string_view texto) {
 }
 
 void digitar(const Alvo& alvo, std::string texto) {
-    soltar();
+    if (!listaDigitada || listaDigitada->elemento.endereço() != alvo.elemento.endereço()) soltar();
     if (std::holds_alternative<Lista*>(alvo.elemento.controle)) {
         auto& lista = exigir<Lista>(alvo, "digitação");
         if (!lista.admiteDigitação) throw AtoRecusado{alvo.nomeCompleto() + " não admite digitação"};
         focar(lista);
+        if (lista.aoConfirmar) listaDigitada = alvo;
         executarAto([&] { definirTexto(lista, std::move(texto)); });
         return;
     }
@@ -132,12 +142,16 @@ void arrastar(const Alvo& alvo, int valor) {
     if (rolagem.aoRolar) executarAto(rolagem.aoRolar);
 }
 
+void confirmar() {
+    const auto alvo = std::exchange(listaDigitada, std::nullopt);
+    if (alvo && aindaExiste(*alvo)) executarAto(std::get<Lista*>(alvo->elemento.controle)->aoConfirmar);
+}
+
 void soltar() {
+    confirmar();
     if (!polegar) return;
     const auto solto = *std::exchange(polegar, std::nullopt);
-    const auto& [tela, elemento] = solto.alvo;
-    const auto presente = tela->achar(elemento.nome, elemento.índice);
-    if (!presente || presente->endereço() != elemento.endereço()) return;
+    if (!aindaExiste(solto.alvo)) return;
     if (solto.rolagem->valor != solto.valorInicial && solto.rolagem->aoMudar)
         executarAto(solto.rolagem->aoMudar);
 }

@@ -57,8 +57,11 @@ void clicar(const Alvo& alvo);
 /// Picks the item of a list with that text.
 void escolher(const Alvo& alvo, std::string_view texto);
 
-/// Replaces the text of a text box, or of a list that admits typing.
+/// Replaces the text of a text box, or of a list that admits typing. The next act takes a list's text over.
 void digitar(const Alvo& alvo, std::string texto);
+
+/// Takes over what was typed into a list, as Enter and leaving the list do.
+void confirmar();
 
 /// A key that may act by itself (Enter is 13), in a text box. Returns whether it was used up.
 bool teclar(const Alvo& alvo, int tecla);
@@ -69,7 +72,8 @@ void rolar(const Alvo& alvo, int valor);
 /// Moves a scroll bar with the thumb held (Scroll). The next act lets it go.
 void arrastar(const Alvo& alvo, int valor);
 
-/// Lets go of a thumb that `arrastar` moved: one Change if the bar ends elsewhere than it began.
+/// Ends what a person left half done: a thumb that `arrastar` moved is let go, with one Change if the bar
+/// ends elsewhere than it began, and what was typed into a list is taken over.
 void soltar();
 
 /// Goes to a cell of a grid that takes entries.

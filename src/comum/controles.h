@@ -71,6 +71,8 @@ struct Lista {
     Acao aoClicar = nullptr;
     /// The text was changed by typing, or by a text set that stands in no item.
     Acao aoMudar = nullptr;
+    /// A typed text was taken over, with Enter or by leaving the list.
+    Acao aoConfirmar = nullptr;
     bool visivel = true;
     bool habilitado = true;
 };

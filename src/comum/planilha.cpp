@@ -6,11 +6,16 @@
 
 namespace varenta {
 
-void entrarNaCélula(const Planilha& planilha) {
-    if (!planilha.digitação) return;
+void nomearCélula(const Planilha& planilha) {
     const auto& grade = planilha.grade;
     planilha.nomeDaCélula.texto =
         grade.célula(grade.linhaAtual, 0) + " : " + grade.célula(0, grade.colunaAtual);
+}
+
+void entrarNaCélula(const Planilha& planilha) {
+    if (!planilha.digitação) return;
+    const auto& grade = planilha.grade;
+    nomearCélula(planilha);
     definirTexto(planilha.entrada, grade.célula(grade.linhaAtual, grade.colunaAtual));
 }
 
@@ -20,6 +25,27 @@ void sairDaCélula(const Planilha& planilha) {
     std::string texto = planilha.entrada.texto;
     if (éNumérico(texto)) texto = Format(lerPrefixo(texto), planilha.padrãoDaColuna(grade.colunaAtual));
     grade.escrever(grade.linhaAtual, grade.colunaAtual, std::move(texto));
+    if (planilha.aoMudar) planilha.aoMudar();
+}
+
+void dimensionar(const Planilha& planilha, int linhas, int colunas) {
+    auto& grade = planilha.grade;
+    const int linha = grade.linhaAtual, coluna = grade.colunaAtual;
+    grade.dimensionar(linhas, colunas);
+    if (grade.linhaAtual != linha || grade.colunaAtual != coluna) entrarNaCélula(planilha);
+}
+
+void esvaziarDados(Grade& grade) {
+    for (int l = 1; l < grade.linhas; ++l)
+        for (int c = 1; c < grade.colunas; ++c) grade.escrever(l, c, "");
+}
+
+std::string textoDePreenchidas(const Grade& grade) {
+    int quantas = 0;
+    for (int l = 1; l < grade.linhas; ++l)
+        for (int c = 1; c < grade.colunas; ++c) quantas += !grade.célula(l, c).empty();
+    return "Células preenchidas: " + std::to_string(quantas) + " de " +
+           std::to_string((grade.linhas - 1) * (grade.colunas - 1));
 }
 
 void irParaCélula(const Planilha& planilha, int linha, int coluna) {

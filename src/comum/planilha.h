@@ -2,6 +2,7 @@
 
 #include "comum/controles.h"
 
+#include <string>
 #include <string_view>
 
 namespace varenta {
@@ -21,6 +22,8 @@ struct Planilha {
     bool digitação;
     /// The format in which a data column (from 1) writes its numbers.
     std::string_view (*padrãoDaColuna)(int coluna);
+    /// A cell was written through the entry line.
+    Acao aoMudar = nullptr;
 };
 
 /// The current cell was entered: the entry line takes its text and the cell's name is shown.
@@ -29,6 +32,19 @@ void entrarNaCélula(const Planilha& planilha);
 /// The current cell is left: what the entry line holds goes to the cell, a number in its column's format, a
 /// text that is no number as typed (a later check answers it), an empty one empties the cell.
 void sairDaCélula(const Planilha& planilha);
+
+/// Gives the grid its size. Where the current cell moves with it, the entry line takes the new one's text, so
+/// that nothing of the old one is written there.
+void dimensionar(const Planilha& planilha, int linhas, int colunas);
+
+/// Empties all data cells.
+void esvaziarDados(Grade& grade);
+
+/// "Células preenchidas: 3 de 10", of the data cells.
+std::string textoDePreenchidas(const Grade& grade);
+
+/// Shows the name of the current cell, which its headers make, and leaves the entry line as it is.
+void nomearCélula(const Planilha& planilha);
 
 /// Leaves the current cell and enters another. Raises "Índice fora dos limites" outside the grid.
 void irParaCélula(const Planilha& planilha, int linha, int coluna);

@@ -128,6 +128,9 @@ struct Vinculo::Ligar {
             // It would finish the word that is being typed.
             caixa.setCompleter(nullptr);
             digitarEm(*caixa.lineEdit());
+            QObject::connect(caixa.lineEdit(), &QLineEdit::editingFinished, &v, [v = &v, nome = nome] {
+                v->agir(nome, [](const Alvo&) { atos::confirmar(); });
+            });
         }
         QObject::connect(&caixa, &QComboBox::activated, &v,
                          [v = &v, nome = nome, caixa = &caixa](int índice) {

@@ -210,7 +210,10 @@ void Interprete::clicar(const Palavras& palavras) { atos::clicar(alvoDe(palavras
 
 void Interprete::escolher(const Palavras& palavras) { atos::escolher(alvoDe(palavras[1]), palavras[2]); }
 
-void Interprete::digitar(const Palavras& palavras) { atos::digitar(alvoDe(palavras[1]), palavras[2]); }
+void Interprete::digitar(const Palavras& palavras) {
+    atos::digitar(alvoDe(palavras[1]), palavras[2]);
+    atos::confirmar();
+}
 
 void Interprete::rolar(const Palavras& palavras) {
     atos::rolar(alvoDe(palavras[1]), lerInteiro(palavras[2]));

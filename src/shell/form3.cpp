@@ -2,6 +2,8 @@
 
 #include "aspersor/atualizar_aspersor.h"
 #include "aspersor/form1.h"
+#include "aspersor/perfil_form.h"
+#include "campo/form_ec.h"
 #include "comum/ajuda.h"
 #include "comum/operacoes.h"
 #include "comum/plataforma.h"
@@ -22,6 +24,26 @@ void abrirAspersor(const ModeloDeAspersor& modelo) {
     form3.habilitada = false;
 }
 
+/// Opens the radial test on one of its three roads, which is told by the button that goes on.
+void abrirPerfilForm(Botao RegistroPerfilForm::*avançar) {
+    fecharTelas();
+    auto& f = *perfilForm.operator->();
+    for (auto botão :
+         {&RegistroPerfilForm::Command6, &RegistroPerfilForm::Command7, &RegistroPerfilForm::Command8})
+        (f.*botão).visivel = botão == avançar;
+    perfilForm.mostrar();
+    form3.esconder();
+}
+
+/// Opens the field test, for the radial profile or for the overlap.
+void abrirFormEC(bool paraPerfilRadial) {
+    fecharTelas();
+    formEC->Command6.visivel = paraPerfilRadial;
+    formEC->Command4.visivel = !paraPerfilRadial;
+    formEC.mostrar();
+    form3.esconder();
+}
+
 } // namespace
 
 void form3_Load() { associarAjuda(); }
@@ -35,6 +57,11 @@ void form3_Fechar() {
 void form3_TX15B_Click() { abrirAspersor(modeloTX15); }
 void form3_TX20B_Click() { abrirAspersor(modeloTX20); }
 void form3_TX30B_Click() { abrirAspersor(modeloTX30); }
+void form3_Ou_aspB_Click() { abrirPerfilForm(&RegistroPerfilForm::Command8); }
+void form3_Ou_aspC_Click() { abrirPerfilForm(&RegistroPerfilForm::Command6); }
+void form3_OuAsp_Auto_Click() { abrirPerfilForm(&RegistroPerfilForm::Command7); }
+void form3_PerfRad_Click() { abrirFormEC(true); }
+void form3_EnsCampo_Click() { abrirFormEC(false); }
 
 void form3_varenta_Click() {
     form6.mostrar();

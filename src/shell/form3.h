@@ -11,6 +11,11 @@ void form3_TX15B_Click();
 void form3_TX20B_Click();
 void form3_TX30B_Click();
 void form3_varenta_Click();
+void form3_Ou_aspB_Click();
+void form3_Ou_aspC_Click();
+void form3_OuAsp_Auto_Click();
+void form3_PerfRad_Click();
+void form3_EnsCampo_Click();
 
 /// The main window: a picture and the menu from which every use of the system starts.
 struct RegistroForm3 {
@@ -21,23 +26,23 @@ struct RegistroForm3 {
     ItemMenu TX15B{.texto = "TX15", .nível = 2, .aoClicar = form3_TX15B_Click};
     ItemMenu TX20B{.texto = "TX20", .nível = 2, .aoClicar = form3_TX20B_Click};
     ItemMenu TX30B{.texto = "TX30", .nível = 2, .aoClicar = form3_TX30B_Click};
-    ItemMenu Ou_aspB{.texto = "Outro Aspersor", .nível = 1};
+    ItemMenu Ou_aspB{.texto = "Outro Aspersor", .nível = 1, .aoClicar = form3_Ou_aspB_Click};
     ItemMenu EntDa{.texto = "&Ensaios Autopropelido", .nível = 0, .abreSubmenu = true};
-    ItemMenu PerfRad{.texto = "Gerar Perfil Radial", .nível = 1};
-    ItemMenu EnsCampo{.texto = "Sobreposição Lateral", .nível = 1};
+    ItemMenu PerfRad{.texto = "Gerar Perfil Radial", .nível = 1, .aoClicar = form3_PerfRad_Click};
+    ItemMenu EnsCampo{.texto = "Sobreposição Lateral", .nível = 1, .aoClicar = form3_EnsCampo_Click};
     ItemMenu Ajuste{.texto = "Ajustar Parâmetros - Vento", .nível = 0, .abreSubmenu = true};
     ItemMenu Met_malha{.texto = "Método: Malha", .nível = 1, .abreSubmenu = true};
     ItemMenu Asp_Kc{.texto = "Aspersores KELMO", .nível = 2, .abreSubmenu = true};
     ItemMenu TX15c{.texto = "TX15", .nível = 3};
     ItemMenu TX20c{.texto = "TX20", .nível = 3};
     ItemMenu TX30c{.texto = "TX30", .nível = 3};
-    ItemMenu Ou_aspC{.texto = "Outro Aspersor", .nível = 2};
+    ItemMenu Ou_aspC{.texto = "Outro Aspersor", .nível = 2, .aoClicar = form3_Ou_aspC_Click};
     ItemMenu Met_auto{.texto = "Método: Autopropelido", .nível = 1, .abreSubmenu = true};
     ItemMenu Asp_kelmoD{.texto = "Aspersores KELMO", .nível = 2, .abreSubmenu = true};
     ItemMenu TX15d{.texto = "TX15", .nível = 3};
     ItemMenu TX20d{.texto = "TX20", .nível = 3};
     ItemMenu TX30d{.texto = "TX30", .nível = 3};
-    ItemMenu OuAsp_Auto{.texto = "Outro Aspersor", .nível = 2};
+    ItemMenu OuAsp_Auto{.texto = "Outro Aspersor", .nível = 2, .aoClicar = form3_OuAsp_Auto_Click};
     ItemMenu ajuda{.texto = "&Ajuda", .nível = 0, .abreSubmenu = true};
     ItemMenu varenta{.texto = "Sobre o Varenta", .nível = 1, .aoClicar = form3_varenta_Click};
     ItemMenu ajudaProg{.texto = "Ajuda do Programa", .nível = 1, .aoClicar = mostrarÍndiceDaAjuda};

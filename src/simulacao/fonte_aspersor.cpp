@@ -2,6 +2,9 @@
 
 #include "aspersor/atualizar_aspersor.h"
 #include "aspersor/form1.h"
+#include "aspersor/perfil.h"
+#include "aspersor/perfil_form.h"
+#include "comum/arquivos_de_dados.h"
 #include "comum/numeros.h"
 #include "comum/plataforma.h"
 #include "simulacao/form7.h"
@@ -17,7 +20,14 @@ FonteDoAspersor aspersorDoCatálogo() {
         true, nome, f.lblRaioAlcance, f.lblVazão, f.Label12.texto, std::span{f.lblIntensidade}.subspan(1)};
 }
 
-FonteDoAspersor aspersorEmUso() { return aspersorDoCatálogo(); }
+FonteDoAspersor aspersorMedido() {
+    auto& p = *perfil.operator->();
+    const auto& f = *perfilForm.operator->();
+    return {false,         ouSubstituto(f.Text7.texto, "não Especificado"), p.Label17, p.Label2,
+            f.Text8.texto, std::span{p.lblIntensidade}.subspan(1)};
+}
+
+FonteDoAspersor aspersorEmUso() { return form7->Command2.visivel ? aspersorDoCatálogo() : aspersorMedido(); }
 
 DadosDaSimulação lerSimulação(const FonteDoAspersor& fonte) {
     DadosDaSimulação dados{};
@@ -43,18 +53,32 @@ DadosDaSimulação lerSimulação(const FonteDoAspersor& fonte) {
     return dados;
 }
 
+namespace {
+
+/// A notice is a line of the label, and is told without the label's prefix.
+void acrescentarAviso(Rotulo& lblAviso, const std::string& aviso) {
+    if (!lblAviso.texto.empty()) lblAviso.texto += "\n";
+    lblAviso.texto += "Aviso: " + aviso;
+    plataforma::avisar(aviso);
+}
+
+} // namespace
+
 void avisarDoModelo(Rotulo& lblAviso, const ContagemDoModelo& contagem) {
     lblAviso.texto.clear();
     const auto avisar = [&](std::size_t quantos, const char* motivo) {
         if (quantos == 0) return;
-        const auto aviso = "em " + std::to_string(quantos) + " de " + std::to_string(contagem.pontos) +
-                           " pontos " + motivo + "; os valores podem não ter sentido físico.";
-        if (!lblAviso.texto.empty()) lblAviso.texto += "\n";
-        lblAviso.texto += "Aviso: " + aviso;
-        plataforma::avisar(aviso);
+        acrescentarAviso(lblAviso, "em " + std::to_string(quantos) + " de " +
+                                       std::to_string(contagem.pontos) + " pontos " + motivo +
+                                       "; os valores podem não ter sentido físico.");
     };
     avisar(contagem.semConvergência, "o modelo de vento não convergiu");
     avisar(contagem.fatorNãoPositivo, "o fator de área do modelo não é positivo");
+}
+
+void avisarDoÂngulo(Rotulo& lblAviso, const FonteDoAspersor& fonte) {
+    if (fonte.anguloJato.empty())
+        acrescentarAviso(lblAviso, "Ângulo do jato não informado: a simulação usa 0º.");
 }
 
 } // namespace varenta

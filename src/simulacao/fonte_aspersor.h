@@ -24,7 +24,11 @@ struct FonteDoAspersor {
 /// The catalogue sprinkler that `form1` holds.
 FonteDoAspersor aspersorDoCatálogo();
 
-/// The sprinkler of the road that the screens are on.
+/// The measured sprinkler that `Perfil` holds, with the jet angle from `PerfilForm`: empty where none was
+/// given.
+FonteDoAspersor aspersorMedido();
+
+/// The sprinkler of the road that the screens are on: that of the buttons that `Form7` shows.
 FonteDoAspersor aspersorEmUso();
 
 /// Reads the sprinkler, and the run from `Form7`.
@@ -33,5 +37,8 @@ DadosDaSimulação lerSimulação(const FonteDoAspersor& fonte);
 /// Writes to the screen's notice at how many points of a calculation the wind model's values may make no
 /// physical sense, and tells the person; empties the notice where at none.
 void avisarDoModelo(Rotulo& lblAviso, const ContagemDoModelo& contagem);
+
+/// Adds to the screen's notice that the sprinkler's jet angle isn't known, and tells the person.
+void avisarDoÂngulo(Rotulo& lblAviso, const FonteDoAspersor& fonte);
 
 } // namespace varenta

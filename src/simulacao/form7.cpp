@@ -1,6 +1,7 @@
 #include "simulacao/form7.h"
 
 #include "aspersor/form1.h"
+#include "aspersor/perfil.h"
 #include "comum/ajuda.h"
 #include "comum/numeros.h"
 #include "comum/operacoes.h"
@@ -32,6 +33,12 @@ void escreverGiro() {
     form7->Label35.texto =
         Format(360 - (lerPrefixo(form7->Label24.texto) + lerPrefixo(form7->Label33.texto)), "0");
     form7->Labelang.texto = form7->Label35.texto + "º";
+}
+
+void voltarPara(TelaBase& telaDoAspersor) {
+    form7.descarregar();
+    telaDoAspersor.mostrar();
+    telaPrincipal->habilitada = false;
 }
 
 } // namespace
@@ -104,15 +111,13 @@ void form7_Command1_Click() {
     lerArquivoDeParametros(*caminho);
 }
 
-void form7_Command4_Click() {
-    form7.descarregar();
-    form1.mostrar();
-    telaPrincipal->habilitada = false;
-}
+void form7_Command4_Click() { voltarPara(form1); }
+void form7_Command6_Click() { voltarPara(perfil); }
 
 void form7_cmdSair_Click() {
     form7.descarregar();
     form1.descarregar();
+    perfil.descarregar();
     voltarAoMenu();
 }
 

@@ -20,6 +20,10 @@ void form7_Command1_Click();
 void form7_Command2_Click(); // stands in uniformidade/, whose screens it writes
 void form7_Command3_Click();
 void form7_Command4_Click();
+void form7_Command7_Click();
+void form7_Command6_Click();
+void form7_Command8_Click();        // stands in uniformidade/
+void form7_Command9_Click();        // stands in uniformidade/
 void form7_cmdUniformidade_Click(); // stands in uniformidade/
 void form7_cmdSair_Click();
 void form7_Picture2_MouseMove(double x, double y);
@@ -105,14 +109,14 @@ struct RegistroForm7 {
 
     Botao Command1{.texto = "Abrir Arquivo", .aoClicar = form7_Command1_Click};
     Botao Command2{.texto = "&Calcular Lâminas", .aoClicar = form7_Command2_Click};
-    Botao Command8{.texto = "&Calcular Lâminas"};
+    Botao Command8{.texto = "&Calcular Lâminas", .aoClicar = form7_Command8_Click};
     Botao Command3{.texto = "&Gráfico Intensidades", .aoClicar = form7_Command3_Click, .habilitado = false};
-    Botao Command7{.texto = "&Gráfico Intensidades", .habilitado = false};
+    Botao Command7{.texto = "&Gráfico Intensidades", .aoClicar = form7_Command7_Click, .habilitado = false};
     Botao Command4{.texto = "<< &Voltar", .aoClicar = form7_Command4_Click};
-    Botao Command6{.texto = "<< &Voltar"};
+    Botao Command6{.texto = "<< &Voltar", .aoClicar = form7_Command6_Click};
     Botao cmdUniformidade{
         .texto = "&Avançar >>", .aoClicar = form7_cmdUniformidade_Click, .habilitado = false};
-    Botao Command9{.texto = "&Avançar >>", .habilitado = false};
+    Botao Command9{.texto = "&Avançar >>", .aoClicar = form7_Command9_Click, .habilitado = false};
     Botao Command5{.texto = "Ajuda", .aoClicar = mostrarAjuda<topicos::form7>};
     Botao cmdSair{.texto = "&Fechar", .aoClicar = form7_cmdSair_Click};
 

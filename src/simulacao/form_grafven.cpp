@@ -14,10 +14,17 @@ void form_grafVen_Command1_Click() {
     form7.mostrar();
 }
 
-void form7_Command3_Click() {
+namespace {
+
+void abrirMapa(void (*desenhar)()) {
     form_grafVen.carregar();
-    desenharIntensidades();
+    desenhar();
     form_grafVen.mostrar();
 }
+
+} // namespace
+
+void form7_Command3_Click() { abrirMapa(desenharIntensidades); }
+void form7_Command7_Click() { abrirMapa(desenharIntensidadesOu); }
 
 } // namespace varenta

@@ -125,5 +125,6 @@ Matriz amostrarCampo(const CampoDeIntensidades& campo) {
 }
 
 void desenharIntensidades() { desenhar(aspersorDoCatálogo()); }
+void desenharIntensidadesOu() { desenhar(aspersorMedido()); }
 
 } // namespace varenta

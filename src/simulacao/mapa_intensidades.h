@@ -13,8 +13,9 @@ inline constexpr std::size_t ladoDoMapa = 200;
 /// Raises "Índice fora dos limites" where the field has more cells than there are samples.
 Matriz amostrarCampo(const CampoDeIntensidades& campo);
 
-/// Draws the map of intensities of the catalogue sprinkler of `form1` on `Form_grafVen`, and disables
-/// `Form7`.
+/// Draws the map of intensities on `Form_grafVen`, and disables `Form7`: for the catalogue sprinkler of
+/// `form1`, and for the one that `Perfil` holds.
 void desenharIntensidades();
+void desenharIntensidadesOu();
 
 } // namespace varenta

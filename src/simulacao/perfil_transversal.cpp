@@ -68,17 +68,20 @@ void desenharGráfico(const PerfilTransversal& perfil, double S) {
     });
 }
 
-void calcular(const FonteDoAspersor& fonte) {
+/// The chart of the intensities can be had from then on, by the road's own button.
+void calcular(const FonteDoAspersor& fonte, Botao& gráficoDeIntensidades) {
     const auto dados = lerSimulação(fonte);
     const auto perfil = perfilTransversal(dados);
     escreverTabela(form7->flexA, perfil);
     avisarDoModelo(form7->lblAviso, perfil.contagem);
+    avisarDoÂngulo(form7->lblAviso, fonte);
     desenharGráfico(perfil, dados.S);
-    form7->Command3.habilitado = true;
+    gráficoDeIntensidades.habilitado = true;
 }
 
 } // namespace
 
-void calcularPerfilTransversal() { calcular(aspersorDoCatálogo()); }
+void calcularPerfilTransversal() { calcular(aspersorDoCatálogo(), form7->Command3); }
+void calcularPerfilTransversalOu() { calcular(aspersorMedido(), form7->Command7); }
 
 } // namespace varenta

@@ -24,4 +24,7 @@ PerfilTransversal perfilTransversal(const DadosDaSimulação& dados);
 /// chart of `Form7`.
 void calcularPerfilTransversal();
 
+/// The same for the measured sprinkler of `Perfil`.
+void calcularPerfilTransversalOu();
+
 } // namespace varenta

@@ -142,5 +142,6 @@ bool analisar(const FonteDoAspersor& fonte) {
 } // namespace
 
 bool analisarEficiencia() { return analisar(aspersorDoCatálogo()); }
+bool analisarEficienciaOu() { return analisar(aspersorMedido()); }
 
 } // namespace varenta

@@ -1,6 +1,8 @@
 #include "uniformidade/caminho.h"
 
 #include "aspersor/form1.h"
+#include "aspersor/perfil.h"
+#include "aspersor/perfil_form.h"
 #include "simulacao/form7.h"
 #include "uniformidade/form4.h"
 #include "uniformidade/form5.h"
@@ -16,6 +18,8 @@ void fecharCaminho() {
     form4.descarregar();
     form7.descarregar();
     form1.descarregar();
+    perfil.descarregar();
+    perfilForm.descarregar();
     voltarAoMenu();
 }
 

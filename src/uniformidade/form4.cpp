@@ -6,7 +6,7 @@
 #include "comum/plataforma.h"
 #include "simulacao/form7.h"
 #include "uniformidade/caminho.h"
-#include "uniformidade/graficos_form4.h"
+#include "uniformidade/graficos_sobreposicao.h"
 #include "uniformidade/relatorios.h"
 #include "uniformidade/sobreposicao.h"
 #include "uniformidade/uniformidade_centro.h"
@@ -64,38 +64,16 @@ void form4_Command9_Click() {
     form4->Command10.habilitado = true;
 }
 
-void form4_cmdSalvar_Click() { salvarRelatório(relatórioDoCentro); }
+void form4_cmdSalvar_Click() { salvarRelatório(relatórioDoCentro()); }
 
 void form4_Picture1_MouseMove(double x, double y) {
-    constexpr auto& malha = malhaDaSobreposição;
     auto& f = *form4.operator->();
-    if (!malha.contém(x, y)) {
-        form4.ponteiro = Ponteiro::padrão;
-        f.Label21.texto.clear();
-        f.Label30.texto.clear();
-        return;
-    }
-    form4.ponteiro = Ponteiro::cruz;
-    const double d = lerPrefixo(f.Label22.back().texto) * (x - malha.esquerda) / malha.largura();
-    const double i = lerPrefixo(f.Label23.back().texto) * (malha.base - y) / malha.altura();
-    f.Label21.texto = "d = " + Format(d, "0.000") + " m";
-    f.Label30.texto = "I = " + Format(i, "0.000") + " mm";
+    form4.ponteiro = lerSobreposição({f.Label22.back(), f.Label23.back(), f.Label21, f.Label30}, x, y);
 }
 
 void form4_Picture2_MouseMove(double x, double y) {
-    constexpr auto& malha = malhaDosEspaçamentos;
     auto& f = *form4.operator->();
-    if (!malha.contém(x, y)) {
-        form4.ponteiro = Ponteiro::padrão;
-        f.Label13.texto.clear();
-        f.Label20.texto.clear();
-        return;
-    }
-    form4.ponteiro = Ponteiro::cruz;
-    const double E = lerPrefixo(f.Label26.back().texto) * (x - malha.esquerda) / malha.largura();
-    const double UD = 10 + 90 * (malha.base - y) / malha.altura();
-    f.Label13.texto = "E = " + Format(E, "0.000") + " m";
-    f.Label20.texto = "UD = " + Format(UD, "0.000") + " %";
+    form4.ponteiro = lerEspaçamentos({f.Label26.back(), f.Label26.back(), f.Label13, f.Label20}, x, y);
 }
 
 } // namespace varenta

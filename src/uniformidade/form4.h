@@ -10,6 +10,7 @@ void form4_Fechar();
 void form4_MouseMove();
 void form4_cmbEspaçamento_Change();
 void form4_Command5_Click();
+void form4_Command10_Click();
 void form4_Command7_Click();
 void form4_Command8_Click();
 void form4_Command9_Click();
@@ -59,7 +60,7 @@ struct RegistroForm4 {
     Botao Command8{.texto = "Calcular Maior CUC", .aoClicar = form4_Command8_Click};
     Botao Command9{.texto = "Sobrepor", .aoClicar = form4_Command9_Click, .habilitado = false};
     Botao Command5{.texto = "&Avançar >>", .aoClicar = form4_Command5_Click, .habilitado = false};
-    Botao Command10{.texto = "&Avançar >>", .habilitado = false};
+    Botao Command10{.texto = "&Avançar >>", .aoClicar = form4_Command10_Click, .habilitado = false};
 
     RegistroForm4() {
         Label22[0].texto = "0.0";

@@ -5,6 +5,8 @@
 #include "uniformidade/form5.h"
 #include "uniformidade/uniformidade_faixa.h"
 
+#include <initializer_list>
+
 namespace varenta {
 namespace {
 
@@ -34,11 +36,20 @@ void abrirForm5(const FonteDoAspersor& fonte) {
     form5.mostrar();
 }
 
+void esconder(std::initializer_list<Botao*> botões) {
+    for (auto* botão : botões) botão->visivel = false;
+}
+
 } // namespace
 
 void form4_Command5_Click() {
     abrirForm5(aspersorDoCatálogo());
-    for (auto* botão : {&form5->Command9, &form5->Command11, &form5->Command16}) botão->visivel = false;
+    esconder({&form5->Command9, &form5->Command11, &form5->Command16});
+}
+
+void form4_Command10_Click() {
+    abrirForm5(aspersorMedido());
+    esconder({&form5->Command10, &form5->Command12, &form5->Command15});
 }
 
 } // namespace varenta

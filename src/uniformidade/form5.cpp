@@ -67,6 +67,19 @@ void aoMarcarParada(const ExtremoDaFaixa& extremo) {
     focar(extremo.tempo);
 }
 
+void calcular(bool (*faixa)(), Botao& eficiências, Botao& gráfico) {
+    if (!entradasDaFaixaVálidas(raioDeAlcance()) || !faixa()) return;
+    for (auto* botão : {&form5->Command3, &eficiências, &gráfico}) botão->habilitado = true;
+}
+
+void abrirEficiências(bool (*analisar)()) {
+    if (analisar()) form9.mostrar();
+}
+
+void abrirMapa(bool (*desenhar)()) {
+    if (entradasDaFaixaVálidas(raioDeAlcance()) && desenhar()) form_grafFinal.mostrar();
+}
+
 } // namespace
 
 void form5_Load() { associarAjuda(); }
@@ -97,20 +110,14 @@ void form5_Command5_Click() {
     form4.mostrar();
 }
 
-void form5_Command10_Click() {
-    if (!entradasDaFaixaVálidas(raioDeAlcance()) || !calcularFaixa()) return;
-    form5->Command3.habilitado = true;
-    form5->Command12.habilitado = true;
-    form5->Command15.habilitado = true;
-}
+void form5_Command9_Click() { calcular(calcularFaixaOu, form5->Command11, form5->Command16); }
+void form5_Command10_Click() { calcular(calcularFaixa, form5->Command12, form5->Command15); }
 
-void form5_Command12_Click() {
-    if (analisarEficiencia()) form9.mostrar();
-}
+void form5_Command11_Click() { abrirEficiências(analisarEficienciaOu); }
+void form5_Command12_Click() { abrirEficiências(analisarEficiencia); }
 
-void form5_Command15_Click() {
-    if (entradasDaFaixaVálidas(raioDeAlcance()) && mapaFaixa()) form_grafFinal.mostrar();
-}
+void form5_Command15_Click() { abrirMapa(mapaFaixa); }
+void form5_Command16_Click() { abrirMapa(mapaFaixaOu); }
 
 void form5_Picture2_MouseMove(double x, double y) {
     constexpr auto& malha = malhaDaFaixa;

@@ -15,9 +15,12 @@ void form5_chkParada_Click();
 void form5_Check2_Click();
 void form5_Command3_Click();
 void form5_Command5_Click();
+void form5_Command9_Click();
 void form5_Command10_Click();
+void form5_Command11_Click();
 void form5_Command12_Click();
 void form5_Command15_Click();
+void form5_Command16_Click();
 void form5_Picture2_MouseMove(double x, double y);
 
 /// The whole irrigated strip: how it begins and ends, and how evenly it is watered. Its buttons come in
@@ -72,13 +75,13 @@ struct RegistroForm5 {
     Rotulo lblEf{.texto = "Ef ="};
     Rotulo lblI{.texto = "I ="};
 
-    Botao Command9{.texto = "&Calcular CUC"};
+    Botao Command9{.texto = "&Calcular CUC", .aoClicar = form5_Command9_Click};
     Botao Command10{.texto = "&Calcular CUC", .aoClicar = form5_Command10_Click};
     Botao Command3{.texto = "Visulizar Valores", .aoClicar = form5_Command3_Click, .habilitado = false};
-    Botao Command11{.texto = "Eficiências", .habilitado = false};
+    Botao Command11{.texto = "Eficiências", .aoClicar = form5_Command11_Click, .habilitado = false};
     Botao Command12{.texto = "Eficiências", .aoClicar = form5_Command12_Click, .habilitado = false};
     Botao Command15{.texto = "Gráfico", .aoClicar = form5_Command15_Click, .habilitado = false};
-    Botao Command16{.texto = "Gráfico", .habilitado = false};
+    Botao Command16{.texto = "Gráfico", .aoClicar = form5_Command16_Click, .habilitado = false};
     Botao Command4{.texto = "Ajuda", .aoClicar = mostrarAjuda<topicos::form5>};
     Botao Command2{.texto = "&Fechar", .aoClicar = form5_Fechar};
     Botao Command5{.texto = "<< &Voltar", .aoClicar = form5_Command5_Click};

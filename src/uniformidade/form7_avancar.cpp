@@ -1,4 +1,5 @@
 #include "aspersor/form1.h"
+#include "aspersor/perfil.h"
 #include "comum/numeros.h"
 #include "comum/operacoes.h"
 #include "simulacao/entradas_form7.h"
@@ -12,20 +13,36 @@
 
 namespace varenta {
 
+namespace {
+
+void escreverDados(const FonteDoAspersor& fonte, const std::string& pressão) {
+    form4->Label1.texto = pressão;
+    form4->Label2.texto = form7->Label19.texto;
+    // The spacing stands here, and not the angle, until the button that goes on writes it again.
+    form4->Label3.texto = "Ângulo: " + form7->Combo2.texto + " graus";
+    form4->Label4.texto = "Velocidade: " + form7->Text1.texto + " m/h";
+    form5->Label52.texto = form4->Label4.texto;
+    form4->Label8.texto = "Vazão: " + fonte.vazão.texto + " m³/h";
+    form4->Label7.texto = "Raio: " + fonte.raio.texto + " m";
+}
+
+} // namespace
+
 void form7_Command2_Click() {
     if (!entradasDaSimulaçãoVálidas()) return;
     calcularPerfilTransversal();
     form7->cmdUniformidade.habilitado = true;
     form7->Command3.habilitado = true;
     marcar(form1, form1->optMCA);
-    form4->Label1.texto = "Pressão: " + form1->lblPressão.texto + " m.c.a.";
-    form4->Label2.texto = form7->Label19.texto;
-    // The spacing stands here, and not the angle, until the button that goes on writes it again.
-    form4->Label3.texto = "Ângulo: " + form7->Combo2.texto + " graus";
-    form4->Label4.texto = "Velocidade: " + form7->Text1.texto + " m/h";
-    form5->Label52.texto = form4->Label4.texto;
-    form4->Label8.texto = "Vazão: " + form1->lblVazão.texto + " m³/h";
-    form4->Label7.texto = "Raio: " + form1->lblRaioAlcance.texto + " m";
+    escreverDados(aspersorDoCatálogo(), "Pressão: " + form1->lblPressão.texto + " m.c.a.");
+}
+
+void form7_Command8_Click() {
+    if (!entradasDaSimulaçãoVálidas()) return;
+    calcularPerfilTransversalOu();
+    form7->Command9.habilitado = true;
+    form7->Command7.habilitado = true;
+    escreverDados(aspersorMedido(), perfil->Label1.texto);
 }
 
 namespace {
@@ -56,6 +73,11 @@ void abrirForm4(const FonteDoAspersor& fonte) {
 void form7_cmdUniformidade_Click() {
     abrirForm4(aspersorDoCatálogo());
     form4->Command10.visivel = false;
+}
+
+void form7_Command9_Click() {
+    abrirForm4(aspersorMedido());
+    form4->Command5.visivel = false;
 }
 
 } // namespace varenta

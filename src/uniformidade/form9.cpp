@@ -13,7 +13,7 @@ void form9_MouseMove() { form9.ponteiro = Ponteiro::padrão; }
 
 void form9_Esconder() { form9.esconder(); }
 
-void form9_Command1_Click() { salvarRelatório(relatórioDasEficiências); }
+void form9_Command1_Click() { salvarRelatório(relatórioDasEficiências()); }
 
 void form9_Picture1_MouseMove(double x, double y) {
     constexpr auto& malha = malhaDaÁrea;

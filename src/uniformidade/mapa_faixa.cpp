@@ -58,5 +58,6 @@ bool desenhar(const FonteDoAspersor& fonte) {
 } // namespace
 
 bool mapaFaixa() { return desenhar(aspersorDoCatálogo()); }
+bool mapaFaixaOu() { return desenhar(aspersorMedido()); }
 
 } // namespace varenta

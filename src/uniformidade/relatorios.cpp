@@ -1,8 +1,6 @@
 #include "uniformidade/relatorios.h"
 
-#include "comum/arquivo_texto.h"
-#include "comum/erro_execucao.h"
-#include "comum/plataforma.h"
+#include "comum/arquivos_de_dados.h"
 #include "uniformidade/form4.h"
 #include "uniformidade/form5.h"
 #include "uniformidade/form8.h"
@@ -16,13 +14,8 @@ namespace {
 
 constexpr std::string_view programa = "VARENTA - Versão 4.0";
 
-void linha(std::string& texto, std::string_view conteúdo) {
-    texto += conteúdo;
-    texto += "\r\n";
-}
-
 void linhas(std::string& texto, std::initializer_list<const Rotulo*> rótulos) {
-    for (const auto* rótulo : rótulos) linha(texto, rótulo->texto);
+    for (const auto* rótulo : rótulos) acrescentarLinha(texto, rótulo->texto);
 }
 
 void linhaDaTabela(std::string& texto, const Grade& grade, int l) {
@@ -30,7 +23,7 @@ void linhaDaTabela(std::string& texto, const Grade& grade, int l) {
         texto += grade.célula(l, c);
         texto += '\t';
     }
-    linha(texto, "");
+    acrescentarLinha(texto, "");
 }
 
 /// A named value, as in "CUC 85.12 %".
@@ -38,12 +31,7 @@ void linhaDeValor(std::string& texto, std::string_view nome, const std::string& 
                   std::string_view unidade) {
     texto += nome;
     texto += valor;
-    linha(texto, unidade);
-}
-
-/// The text of a box where it holds one, otherwise 0.
-std::string valorOuZero(const CaixaTexto& caixa) {
-    return caixa.texto.empty() ? std::string(1, '0') : caixa.texto;
+    acrescentarLinha(texto, unidade);
 }
 
 std::string relatórioComTabela(const Grade& grade) {
@@ -51,21 +39,21 @@ std::string relatórioComTabela(const Grade& grade) {
     auto& f5 = *form5.operator->();
     auto& f8 = *form8.operator->();
     std::string texto;
-    linha(texto, programa);
-    linha(texto, f8.Caption);
-    linha(texto, "");
+    acrescentarLinha(texto, programa);
+    acrescentarLinha(texto, f8.Caption);
+    acrescentarLinha(texto, "");
     linhas(texto, {&f4.Label1, &f4.Label2, &f4.Label3, &f4.Label4, &f4.Label8, &f5.Label39, &f4.Label7});
-    linha(texto, "Início de Faixa:");
+    acrescentarLinha(texto, "Início de Faixa:");
     linhas(texto, {&f8.Label4});
-    linhaDeValor(texto, "Tempo de Parada - Tpi ", valorOuZero(f5.txtParada), " min");
+    linhaDeValor(texto, "Tempo de Parada - Tpi ", ouSubstituto(f5.txtParada.texto, "0"), " min");
     linhaDeValor(texto, "CUC ", f5.Label2.texto, " %");
     linhaDeValor(texto, "Imédio ", f5.Label1.texto, " mm");
-    linha(texto, "Fim da Faixa:");
+    acrescentarLinha(texto, "Fim da Faixa:");
     linhas(texto, {&f8.Label5});
-    linhaDeValor(texto, "Tempo de Parada - Tpf ", valorOuZero(f5.Text4), " min");
+    linhaDeValor(texto, "Tempo de Parada - Tpf ", ouSubstituto(f5.Text4.texto, "0"), " min");
     linhaDeValor(texto, "CUC ", f5.Label3.texto, " %");
     linhaDeValor(texto, "Imédio ", f5.Label4.texto, " mm");
-    linha(texto, "Toda Faixa:");
+    acrescentarLinha(texto, "Toda Faixa:");
     linhaDeValor(texto, "Comprimento Carreador - Cc ", f5.txtMan.texto, " m");
     linhaDeValor(texto, "CUC Centro da Faixa ", f5.Label5.texto, " %");
     linhaDeValor(texto, "Imédio Centro da Faixa ", f5.Label7.texto, " mm");
@@ -78,37 +66,34 @@ std::string relatórioComTabela(const Grade& grade) {
 
 } // namespace
 
-void salvarRelatório(std::string (*relatório)()) {
-    const auto caminho =
-        plataforma::arquivoParaSalvar({.filtro = "Text files|*.TXT|All files|*.*", .extensãoPadrão = "TXT"});
-    if (!caminho || caminho->empty()) return;
-    try {
-        gravarTexto(*caminho, relatório());
-    } catch (const ErroExecucao& e) {
-        plataforma::mensagem(std::string{"O arquivo não pôde ser salvo: "} + e.what() + "!");
-    }
+void salvarRelatório(const std::string& relatório) {
+    salvarArquivoDeDados(relatório, "O arquivo não pôde ser salvo: ", "!");
 }
 
-std::string relatórioDoCentro() {
-    auto& f = *form4.operator->();
+std::string linhasDoRelatório(const Grade& grade) {
     std::string texto;
-    linha(texto, programa);
-    linha(texto, "");
-    linha(texto, f.Caption);
-    linha(texto, "");
-    linhas(texto, {&f.Label1, &f.Label2, &f.Label3, &f.Label4, &f.Label8, &f.Label7});
-    linha(texto, "");
-    linhas(texto, {&f.Label37, &f.Label38});
-    linha(texto, "");
-    // The first empty row ends the table and is written too, also where the grid has no such row.
-    const auto& grade = f.flexGrid_A;
     int l = 0;
     for (; l < grade.linhas && !grade.célula(l, 0).empty(); ++l) linhaDaTabela(texto, grade, l);
     if (l < grade.linhas)
         linhaDaTabela(texto, grade, l);
     else
-        linha(texto, std::string(4, '\t'));
-    linha(texto, "");
+        acrescentarLinha(texto, std::string(static_cast<std::size_t>(grade.colunas), '\t'));
+    return texto;
+}
+
+std::string relatórioDoCentro() {
+    auto& f = *form4.operator->();
+    std::string texto;
+    acrescentarLinha(texto, programa);
+    acrescentarLinha(texto, "");
+    acrescentarLinha(texto, f.Caption);
+    acrescentarLinha(texto, "");
+    linhas(texto, {&f.Label1, &f.Label2, &f.Label3, &f.Label4, &f.Label8, &f.Label7});
+    acrescentarLinha(texto, "");
+    linhas(texto, {&f.Label37, &f.Label38});
+    acrescentarLinha(texto, "");
+    texto += linhasDoRelatório(f.flexGrid_A);
+    acrescentarLinha(texto, "");
     return texto;
 }
 

@@ -7,9 +7,12 @@
 /// The reports that the screens save as text, their lines ended by CR LF.
 namespace varenta {
 
-/// Asks for a file and writes the report there; where it can't be written, tells the reason. The report is
-/// made only when a file was chosen.
-void salvarRelatório(std::string (*relatório)());
+/// Asks for a file and writes the report there; where it can't be written, tells the reason.
+void salvarRelatório(const std::string& relatório);
+
+/// The rows of a table as a report writes them, a tab after each cell. The first row with an empty first cell
+/// ends the table and is written too, also where the grid has no such row.
+std::string linhasDoRelatório(const Grade& grade);
 
 /// The spacings of `Form4`.
 std::string relatórioDoCentro();

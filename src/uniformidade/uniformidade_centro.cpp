@@ -5,11 +5,11 @@
 #include "simulacao/form7.h"
 #include "uniformidade/form4.h"
 #include "uniformidade/form5.h"
-#include "uniformidade/graficos_form4.h"
+#include "uniformidade/graficos_sobreposicao.h"
 #include "uniformidade/sobreposicao.h"
 
 #include <algorithm>
-#include <cmath>
+#include <array>
 
 namespace varenta {
 namespace {
@@ -31,81 +31,12 @@ PerfilMostrado lerPerfil() {
     return perfil;
 }
 
-/// One spacing of the list with its figures.
-struct Ponto {
-    double E;
-    Estatísticas valores;
-};
-
-/// A percentage against the spacing: points below the axis are left out, a segment is drawn where its second
-/// point is on it.
-void desenharPorcentagem(const std::vector<Ponto>& pontos, double Estatísticas::*valor, double X0,
-                         double passo, Cor cor) {
-    constexpr double menor = 10;
-    constexpr auto& malha = malhaDosEspaçamentos;
-    auto& desenho = form4->Picture2;
-    const auto lugar = [&](const Ponto& ponto) {
-        const double x = malha.esquerda + dividir(malha.largura() * (ponto.E - X0), 8 * passo);
-        const double y = std::fabs((ponto.valores.*valor - menor) * malha.altura() / 90 - malha.base);
-        return PontoDoDesenho{x, y};
-    };
-    for (std::size_t k = 0; k < pontos.size(); ++k) {
-        if (pontos[k].valores.*valor < menor) continue;
-        const auto até = lugar(pontos[k]);
-        if (k > 0) {
-            const auto de = lugar(pontos[k - 1]);
-            desenho.linha(de.x, de.y, até.x, até.y, cor);
-        }
-    }
-    desenho.estiloPreenchimento(EstiloPreenchimento::sólido);
-    for (const auto& ponto : pontos)
-        if (ponto.valores.*valor >= menor) {
-            const auto [x, y] = lugar(ponto);
-            desenho.arco(x, y, 2, cores::vermelho);
-        }
-    desenho.estiloPreenchimento(EstiloPreenchimento::transparente);
-}
-
-void desenharEspaçamentos(const std::vector<Ponto>& pontos) {
-    if (pontos.empty()) return;
-    const double X0 = pontos.front().E - 6, X1 = pontos.back().E + 6;
-    const double passo = lerPrefixo(Format((X1 - X0) / 8, "#0.0"));
-    escreverEscala(form4->Label26, X0, passo, "#0.0");
-    prepararGráfico(form4->Picture2, malhaDosEspaçamentos);
-    form4->Picture2.larguraTraco(2);
-    desenharPorcentagem(pontos, &Estatísticas::CUC, X0, passo, cores::azul);
-    desenharPorcentagem(pontos, &Estatísticas::UD, X0, passo, cores::verde);
-}
-
-/// The position P (from 0) stands at s/2 + P x s from the lane.
-double distânciaDaPosição(std::size_t P, double s) { return s / 2 + static_cast<double>(P) * s; }
-
-void desenharSobreposição(const Sobreposição& soma, double s) {
-    constexpr auto& malha = malhaDaSobreposição;
-    constexpr auto padrão = "#0.0";
-    const auto n = soma.total.size();
-    const double maior = *std::ranges::max_element(soma.total);
-    const double tx = lerPrefixo(Format(s * static_cast<double>(n) / 9, padrão));
-    const double ty = lerPrefixo(Format(maior / 6, padrão));
-    const double origem = lerPrefixo(form4->Label22[0].texto);
-    for (std::size_t i = 1; i < form4->Label22.size(); ++i)
-        form4->Label22[i].texto = Format(origem + static_cast<double>(i) * tx, padrão);
-    for (std::size_t i = 1; i < form4->Label23.size(); ++i)
-        form4->Label23[i].texto = Format(origem + static_cast<double>(i) * ty, padrão);
-
-    auto& desenho = form4->Picture1;
-    prepararGráfico(desenho, malha);
-    desenho.larguraTraco(2);
-    const auto curva = [&](const std::vector<double>& lâminas, Cor cor) {
-        desenharCurva(desenho, cor, n, [&](std::size_t P) {
-            const double x = malha.esquerda + dividir(malha.largura() * distânciaDaPosição(P, s), 9 * tx);
-            const double y = std::fabs(malha.base - dividir(malha.altura() * lâminas[P], 6 * ty));
-            return PontoDoDesenho{x, y};
-        });
-    };
-    curva(soma.esquerda, cores::vermelho);
-    curva(soma.direita, cores::verde);
-    curva(soma.total, cores::azul);
+void desenharDetalhe(const Sobreposição& soma, double s) {
+    const std::array curvas = {CurvaDaSobreposição{soma.esquerda, cores::vermelho},
+                               CurvaDaSobreposição{soma.direita, cores::verde},
+                               CurvaDaSobreposição{soma.total, cores::azul}};
+    desenharSobreposição(form4->Picture1, form4->Label22, form4->Label23, s,
+                         *std::ranges::max_element(soma.total), curvas);
 }
 
 } // namespace
@@ -123,7 +54,7 @@ void calcularMaiorCUC() {
     const int itens = static_cast<int>(f.cmbEspaçamento.itens.size());
     f.flexGrid_A.dimensionar(itens + 1, 4);
 
-    std::vector<Ponto> pontos;
+    std::vector<PontoDoEspaçamento> pontos;
     std::size_t q = 0;
     for (int k = 1; k <= itens; ++k) {
         escolherItem(f.cmbEspaçamento, k - 1);
@@ -141,7 +72,7 @@ void calcularMaiorCUC() {
         }
         pontos.push_back({E, valores});
     }
-    desenharEspaçamentos(pontos);
+    desenharEspaçamentos(f.Picture2, f.Label26, pontos);
 }
 
 void sobreporEspacamento() {
@@ -162,7 +93,7 @@ void sobreporEspacamento() {
     f.Label16.texto = Format(valores.CUC, "##0.00");
     form5->Label7.texto = f.Label17.texto;
     form5->Label5.texto = f.Label16.texto;
-    desenharSobreposição(soma, perfil.s);
+    desenharDetalhe(soma, perfil.s);
 }
 
 } // namespace varenta

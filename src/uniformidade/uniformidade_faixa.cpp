@@ -138,6 +138,7 @@ std::optional<DadosDaFaixa> lerFaixa(const FonteDoAspersor& fonte) {
 }
 
 bool calcularFaixa() { return calcular(aspersorDoCatálogo()); }
+bool calcularFaixaOu() { return calcular(aspersorMedido()); }
 
 void prepararGráficoDaFaixa() { prepararGráfico(form5->Picture2, malhaDaFaixa); }
 

@@ -152,5 +152,45 @@ TEST_F(EntradaNaPlanilha, ForaDoModoDeDigitaçãoNadaÉEscritoNemMostrado) {
     EXPECT_EQ(telaDeTeste->nomeDaCélula.texto, "");
 }
 
+TEST_F(EntradaNaPlanilha, OutroTamanhoQueMoveACélulaAtualTrocaOTextoDaEntrada) {
+    grade().escrever(1, 2, "a");
+    grade().escrever(2, 2, "b");
+    irParaCélula(planilhaDeTeste(), 2, 2);
+    dimensionar(planilhaDeTeste(), 2, 3);
+    EXPECT_EQ(atual(), (std::pair{1, 2}));
+    EXPECT_EQ(entrada(), "a");
+    // Where it stays, what is being typed stays too.
+    entrada() = "c";
+    dimensionar(planilhaDeTeste(), 9, 3);
+    EXPECT_EQ(entrada(), "c");
+}
+
+TEST_F(EntradaNaPlanilha, NomearMostraOsCabeçalhosEDeixaAEntrada) {
+    entrada() = "7";
+    grade().escrever(1, 0, "outro");
+    nomearCélula(planilhaDeTeste());
+    EXPECT_EQ(telaDeTeste->nomeDaCélula.texto, "outro : " + grade().célula(0, 1));
+    EXPECT_EQ(entrada(), "7");
+}
+
+TEST_F(EntradaNaPlanilha, ContaEEsvaziaSóAsCélulasDeDados) {
+    grade().escrever(1, 0, "1");
+    grade().escrever(1, 1, "a");
+    grade().escrever(2, 2, "b");
+    EXPECT_EQ(textoDePreenchidas(grade()), "Células preenchidas: 2 de 4");
+    esvaziarDados(grade());
+    EXPECT_EQ(textoDePreenchidas(grade()), "Células preenchidas: 0 de 4");
+    EXPECT_EQ(grade().célula(1, 0), "1");
+}
+
+TEST_F(EntradaNaPlanilha, UmaCélulaEscritaÉContadaATela) {
+    auto planilha = planilhaDeTeste();
+    planilha.aoMudar = [] { anotarEvento("escrita"); };
+    eventos.clear();
+    entrada() = "7";
+    sairDaCélula(planilha);
+    EXPECT_EQ(eventos, Eventos{"escrita"});
+}
+
 } // namespace
 } // namespace varenta::teste

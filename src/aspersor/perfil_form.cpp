@@ -1,0 +1,142 @@
+#include "aspersor/perfil_form.h"
+
+#include "aspersor/arquivo_radial.h"
+#include "aspersor/avancar_perfil_form.h"
+#include "aspersor/desenho_coletores.h"
+#include "aspersor/perfil.h"
+#include "comum/ajuda.h"
+#include "comum/arquivos_de_dados.h"
+#include "comum/numeros.h"
+#include "comum/operacoes.h"
+#include "comum/plataforma.h"
+
+namespace varenta {
+namespace {
+
+/// The unit of the readings decides the header, and which of the two boxes it needs. Both begin empty.
+void escolherUnidade(const char* cabeçalho, bool comTempo, bool comDiâmetro) {
+    auto& f = *perfilForm.operator->();
+    f.flexGrid.formato(cabeçalho);
+    f.Text4.visivel = f.Label4.visivel = comTempo;
+    f.Text3.visivel = f.Label3.visivel = comDiâmetro;
+    definirTexto(f.Text3, "");
+    definirTexto(f.Text4, "");
+    nomearCélula(perfilForm_planilha());
+}
+
+void mostrarEntrada(bool mostrada) {
+    auto& f = *perfilForm.operator->();
+    f.Text6.visivel = f.Label6.visivel = f.Label7.visivel = mostrada;
+}
+
+/// The distances that the grid holds so far.
+std::vector<double> distâncias(const Grade& grade) {
+    std::vector<double> distâncias;
+    for (int l = 1; l < grade.linhas; ++l)
+        if (const auto& texto = grade.célula(l, 1); éNumérico(texto)) distâncias.push_back(lerEstrito(texto));
+    return distâncias;
+}
+
+} // namespace
+
+void perfilForm_flexGrid_Change() {
+    auto& f = *perfilForm.operator->();
+    f.lblPreenchidas.texto = textoDePreenchidas(f.flexGrid);
+    desenharLinhaDeColetores(f.Picture1, distâncias(f.flexGrid));
+}
+
+Planilha perfilForm_planilha() {
+    auto& f = *perfilForm.operator->();
+    return {.grade = f.flexGrid,
+            .entrada = f.Text6,
+            .nomeDaCélula = f.Label6,
+            .contagem = &f.Text5,
+            .digitação = !f.Option2.marcada,
+            .padrãoDaColuna = [](int coluna) -> std::string_view { return coluna == 1 ? "0.00" : "0.000"; },
+            .aoMudar = perfilForm_flexGrid_Change};
+}
+
+void perfilForm_Load() {
+    associarAjuda();
+    perfilForm_Option5_Click();
+    definirTexto(perfilForm->Text5, std::to_string(perfilForm->flexGrid.linhas - 1));
+}
+
+void perfilForm_Fechar() {
+    perfilForm.descarregar();
+    voltarAoMenu();
+}
+
+void perfilForm_Option5_Click() { escolherUnidade(cabeçalhoEmMmPorHora, false, false); }
+
+void perfilForm_Option4_Click() {
+    escolherUnidade("^No   |^ Distância - r (m) |^ Intensidade - i (mm)    ", true, false);
+}
+
+void perfilForm_Option3_Click() {
+    escolherUnidade("^No   |^ Distância - r (m) |^ Intensidade - i (ml)      ", true, true);
+}
+
+void perfilForm_Option1_Click() {
+    mostrarEntrada(true);
+    perfilForm.ponteiro = Ponteiro::padrão;
+    entrarNaCélula(perfilForm_planilha());
+}
+
+void perfilForm_Option2_Click() {
+    if (abrirArquivoRadial())
+        mostrarEntrada(false);
+    else
+        marcar(perfilForm, perfilForm->Option1);
+}
+
+void perfilForm_Text5_Change() {
+    auto& f = *perfilForm.operator->();
+    if (!éNumérico(f.Text5.texto)) return;
+    const int dados = paraInteiro(lerEstrito(f.Text5.texto));
+    if (dados <= 0) {
+        plataforma::mensagem("O valor deve ser maior que zero!");
+        definirTexto(f.Text5, "");
+        focar(f.Text5);
+        return;
+    }
+    // The header row comes on top; a count that leaves no room for it asks for too much anyway.
+    dimensionar(perfilForm_planilha(), dados < maisCélulas ? dados + 1 : dados, f.flexGrid.colunas);
+    for (int l = 1; l < f.flexGrid.linhas; ++l) f.flexGrid.escrever(l, 0, std::to_string(l));
+    nomearCélula(perfilForm_planilha());
+    perfilForm_flexGrid_Change();
+}
+
+bool perfilForm_Text6_KeyPress(int tecla) { return teclar(perfilForm_planilha(), tecla); }
+
+void perfilForm_Command1_Click() {
+    auto& f = *perfilForm.operator->();
+    esvaziarDados(f.flexGrid);
+    perfilForm_flexGrid_Change();
+    for (auto* caixa : {&f.Text7, &f.Text9, &f.Text1, &f.Text2, &f.Text4, &f.Text3, &f.Text8, &f.Text6})
+        definirTexto(*caixa, "");
+    marcar(perfilForm, f.Option1);
+}
+
+void perfilForm_Command4_Click() {
+    if (const auto texto = textoDoArquivoRadial()) salvarArquivoDeDados(*texto, falhaAoSalvarDados);
+}
+
+void perfilForm_Command8_Click() {
+    const auto medido = avançarPerfilForm();
+    if (!medido) return;
+    const auto& f = *perfilForm.operator->();
+    mostrarNoPerfil(*medido, {.nome = f.Text7.texto,
+                              .bocais = f.Text9.texto,
+                              .pressão = f.Text2.texto,
+                              .nomeDaPressão = "Pressão",
+                              .vazão = f.Text1.texto,
+                              .anguloJato = f.Text8.texto,
+                              .padrãoDoRaio = "##0.000",
+                              .divisor = 3});
+    perfil->Command4.visivel = perfil->Command5.visivel = false;
+    perfilForm.esconder();
+    perfil.mostrar();
+}
+
+} // namespace varenta

@@ -1,0 +1,51 @@
+#include "campo/desenho_ensaio.h"
+
+#include "aspersor/desenho_coletores.h"
+
+#include <algorithm>
+#include <limits>
+
+namespace varenta {
+namespace {
+
+constexpr double centro = 150, meio = 100, meiaLargura = 135, meiaAltura = 80;
+
+void desenharCarreador(Desenho& desenho) {
+    constexpr double topo = 5, base = 195, farpa = 7;
+    desenho.larguraTraco(2);
+    desenho.linha(centro, base, centro, topo, cores::azul);
+    desenho.linha(centro, topo, centro - farpa, topo + farpa, cores::azul);
+    desenho.linha(centro, topo, centro + farpa, topo + farpa, cores::azul);
+    desenho.larguraTraco(1);
+}
+
+/// Pixels a metre: what both directions have room for.
+double escala(const ArranjoDoEnsaio& a) {
+    const auto cabe = [](double metade, double extensão) {
+        return extensão > 0 ? metade / extensão : std::numeric_limits<double>::max();
+    };
+    return std::min(cabe(meiaLargura, (a.coletores - 0.5) * a.espaço),
+                    cabe(meiaAltura, (a.linhas - 1) * a.distância / 2));
+}
+
+} // namespace
+
+void desenharEnsaioMóvel(Desenho& desenho, const ArranjoDoEnsaio& arranjo) {
+    desenho.limpar();
+    desenharCarreador(desenho);
+    // Spacings that are no lengths yet leave the lane alone.
+    if (arranjo.espaço <= 0 || arranjo.distância <= 0) return;
+    const double pixels = escala(arranjo);
+    for (int k = 0; k < arranjo.linhas; ++k) {
+        const double y = meio + (k - (arranjo.linhas - 1) / 2.0) * arranjo.distância * pixels;
+        const double alcance = (arranjo.coletores - 0.5) * arranjo.espaço * pixels;
+        desenho.linha(centro - alcance, y, centro + alcance, y, cores::preto);
+        for (int j = 1; j <= arranjo.coletores; ++j) {
+            const double x = (j - 0.5) * arranjo.espaço * pixels;
+            desenharColetor(desenho, centro - x, y);
+            desenharColetor(desenho, centro + x, y);
+        }
+    }
+}
+
+} // namespace varenta

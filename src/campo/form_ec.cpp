@@ -1,0 +1,134 @@
+#include "campo/form_ec.h"
+
+#include "campo/arquivo_movel.h"
+#include "campo/desenho_ensaio.h"
+#include "campo/form_unifo.h"
+#include "campo/leituras_ec.h"
+#include "campo/perfil_do_movel.h"
+#include "campo/sobreposicao_movel.h"
+#include "campo/verificacoes_ec.h"
+#include "comum/ajuda.h"
+#include "comum/arquivos_de_dados.h"
+#include "comum/erro_execucao.h"
+#include "comum/numeros.h"
+#include "comum/operacoes.h"
+
+namespace varenta {
+namespace {
+
+/// "Ce3 = 5 m" on the left, "Cd3 = 5 m" on the right.
+std::string nomeDoColetor(const char* lado, int coletor, double espaço) {
+    return lado + std::to_string(coletor) + " = " + paraTexto((coletor - 0.5) * espaço) + " m";
+}
+
+void escreverCabeçalhos(int linhas, int coletores, double espaço) {
+    auto& f = *formEC.operator->();
+    const std::string unidade = f.Option3.marcada ? " - I(ml)" : " - I(mm)";
+    std::string formato;
+    for (int k = 1; k <= linhas; ++k) formato.append("|^Linha ").append(std::to_string(k)).append(unidade);
+    f.flex_A.formato(formato);
+    // The farthest collector of the left side stands at the top.
+    for (int j = 1; j <= coletores; ++j) {
+        f.flex_A.escrever(coletores + 1 - j, 0, nomeDoColetor("Ce", j, espaço));
+        f.flex_A.escrever(coletores + j, 0, nomeDoColetor("Cd", j, espaço));
+    }
+}
+
+void mostrarEntrada(bool mostrada) {
+    auto& f = *formEC.operator->();
+    f.Text5.visivel = f.Label6.visivel = f.Label7.visivel = mostrada;
+}
+
+} // namespace
+
+Planilha formEC_planilha() {
+    auto& f = *formEC.operator->();
+    return {.grade = f.flex_A,
+            .entrada = f.Text5,
+            .nomeDaCélula = f.Label6,
+            .contagem = nullptr,
+            .digitação = !f.Option2.marcada,
+            .padrãoDaColuna = [](int) -> std::string_view { return "0.000"; },
+            .aoMudar = formEC_flex_A_Change};
+}
+
+void formEC_flex_A_Change() { formEC->lblPreenchidas.texto = textoDePreenchidas(formEC->flex_A); }
+
+void gerarPlanilhaEC() {
+    auto& f = *formEC.operator->();
+    const int linhas = paraInteiro(lerPrefixo(f.Combo1.texto));
+    const int coletores = paraInteiro(lerPrefixo(f.Combo3.texto));
+    if (linhas < 1 || coletores < 1) return;
+    if (linhas > maisCélulas || coletores > maisCélulas) throw ErroExecucao{memóriaInsuficiente};
+    const auto planilha = formEC_planilha();
+    if (f.flex_A.linhas != 2 * coletores + 1 || f.flex_A.colunas != linhas + 1) {
+        dimensionar(planilha, 2 * coletores + 1, linhas + 1);
+        esvaziarDados(f.flex_A);
+        f.flex_A.linhaAtual = f.flex_A.colunaAtual = 1;
+        entrarNaCélula(planilha);
+    }
+    escreverCabeçalhos(linhas, coletores, lerPrefixo(f.Combo4.texto));
+    nomearCélula(planilha);
+    formEC_flex_A_Change();
+    f.lblEspaço.texto = "eC = " + f.Combo4.texto + " m";
+    f.lblDistância.texto = "eL = " + f.Combo2.texto + " m";
+    desenharEnsaioMóvel(f.Picture1, {.linhas = linhas,
+                                     .coletores = coletores,
+                                     .distância = lerPrefixo(f.Combo2.texto),
+                                     .espaço = lerPrefixo(f.Combo4.texto)});
+}
+
+void formEC_Load() {
+    associarAjuda();
+    auto& f = *formEC.operator->();
+    for (int k = 1; k <= 10; ++k) f.Combo1.itens.push_back(std::to_string(k));
+    for (int k = 1; k <= 12; ++k) f.Combo2.itens.push_back(Format(k, "0.0"));
+    for (int k = 3; k <= 40; ++k) f.Combo3.itens.push_back(std::to_string(k));
+    f.Combo4.itens = {"1.0", "1.5", "2.0", "3.0", "6.0"};
+    escolherListasPadrão();
+}
+
+void formEC_Fechar() {
+    formEC.descarregar();
+    voltarAoMenu();
+}
+
+void formEC_Option1_Click() {
+    mostrarEntrada(true);
+    entrarNaCélula(formEC_planilha());
+}
+
+void formEC_Option2_Click() {
+    if (abrirArquivoMóvel())
+        mostrarEntrada(false);
+    else
+        marcar(formEC, formEC->Option1);
+}
+
+bool formEC_Text5_KeyPress(int tecla) { return teclar(formEC_planilha(), tecla); }
+
+void formEC_Command1_Click() {
+    if (podeSalvarEnsaio()) salvarArquivoDeDados(textoDoEnsaio(), falhaAoSalvarDados);
+}
+
+void formEC_Command2_Click() {
+    auto& f = *formEC.operator->();
+    for (auto* caixa : {&f.Text6, &f.Text8, &f.Text13, &f.Text11, &f.Text12, &f.Text9, &f.Text1, &f.Text7,
+                        &f.Text2, &f.Text3, &f.Text5})
+        definirTexto(*caixa, "");
+    esvaziarDados(f.flex_A);
+    formEC_flex_A_Change();
+}
+
+void formEC_Command4_Click() {
+    if (!podeSobrepor()) return;
+    prepararSobreposicao();
+    formEC.esconder();
+    formUnifo.mostrar();
+}
+
+void formEC_Command6_Click() {
+    if (podeGerarPerfil()) perfilRadialDoMovel();
+}
+
+} // namespace varenta

@@ -1,0 +1,64 @@
+#include "campo/form_unifo.h"
+
+#include "campo/form_ec.h"
+#include "campo/sobreposicao_movel.h"
+#include "comum/ajuda.h"
+#include "comum/numeros.h"
+#include "comum/operacoes.h"
+#include "comum/plataforma.h"
+#include "uniformidade/graficos_sobreposicao.h"
+#include "uniformidade/relatorios.h"
+
+namespace varenta {
+namespace {
+
+/// Whether the spacing can be overlapped. One that isn't a multiple of six changes nothing.
+bool espaçamentoAceito() {
+    auto& lista = formUnifo->cmbEspaçamento;
+    const int E = paraInteiro(lerPrefixo(lista.texto));
+    if (E % 6 != 0) {
+        plataforma::mensagem("O espaçamento deve ser múltiplo de seis!");
+        return false;
+    }
+    if (lerPrefixo(lista.texto) != 0) return true;
+    plataforma::mensagem("Valor de espaçamento inválido!");
+    escolherItem(lista, 0);
+    return false;
+}
+
+} // namespace
+
+void formUnifo_Load() { associarAjuda(); }
+
+void formUnifo_Fechar() {
+    formUnifo.descarregar();
+    formEC.descarregar();
+    voltarAoMenu();
+}
+
+void formUnifo_MouseMove() { formUnifo.ponteiro = Ponteiro::padrão; }
+
+void formUnifo_Command2_Click() {
+    formUnifo.descarregar();
+    formEC.mostrar();
+}
+
+void formUnifo_cmdCUC_Click() {
+    if (!espaçamentoAceito()) return;
+    sobreporMovel();
+    formUnifo->Caption = "Sobreposição para o Espaçamento: " + formUnifo->cmbEspaçamento.texto + " m";
+}
+
+void formUnifo_cmdSalvar_Click() { salvarRelatório(relatórioDoMóvel()); }
+
+void formUnifo_Picture1_MouseMove(double x, double y) {
+    auto& f = *formUnifo.operator->();
+    formUnifo.ponteiro = lerSobreposição({f.Label22.back(), f.Label23.back(), f.Label21, f.Label30}, x, y);
+}
+
+void formUnifo_Picture2_MouseMove(double x, double y) {
+    auto& f = *formUnifo.operator->();
+    formUnifo.ponteiro = lerEspaçamentos({f.Label26.back(), f.Label26.back(), f.Label13, f.Label20}, x, y);
+}
+
+} // namespace varenta

@@ -1,0 +1,568 @@
+#include "campo/form_ec.h"
+
+#include "apoio/ensaios.h"
+#include "apoio/pasta_temporaria.h"
+#include "campo/arquivo_movel.h"
+#include "campo/vazao_ec.h"
+
+namespace varenta::teste {
+namespace {
+
+const std::string não = "mensagem: O arquivo não pode ser aberto, consulte a ajuda!";
+const std::string perguntaDoArquivo =
+    "pergunta: O arquivo deve estar na extensão: *.TXT separado por tabulações!";
+
+class EnsaioDeCampo : public testing::Test {
+  protected:
+    void SetUp() override { abrirFormEC("EnsCampo", {{"1", "2"}, {"3", "4"}, {"5", "6"}, {"7", "8"}}); }
+
+    static const std::string& célula(int linha, int coluna) { return formEC->flex_A.célula(linha, coluna); }
+    static std::vector<std::string> coluna(int coluna) {
+        std::vector<std::string> textos;
+        for (int l = 0; l < formEC->flex_A.linhas; ++l) textos.push_back(célula(l, coluna));
+        return textos;
+    }
+    static void esperarRecusa(const char* botão, const std::string& mensagem) {
+        caderno.clear();
+        clicar(formEC, botão);
+        EXPECT_EQ(caderno, std::vector{"mensagem: " + mensagem});
+        EXPECT_TRUE(formEC.visivel);
+    }
+};
+
+TEST_F(EnsaioDeCampo, AbreComAsListasPadrão) {
+    recomeçar();
+    clicar(form3, "EnsCampo");
+    const auto& f = *formEC.operator->();
+    EXPECT_EQ(formEC.caption(), "Perfil Móvel Determinado em Campo");
+    EXPECT_EQ(f.Combo1.texto + " " + f.Combo2.texto + " " + f.Combo3.texto + " " + f.Combo4.texto, "3 6.0 20 2.0");
+    EXPECT_EQ(f.Combo1.itens.size(), 10U);
+    EXPECT_EQ(f.Combo2.itens.front() + " " + f.Combo2.itens.back(), "1.0 12.0");
+    EXPECT_EQ(f.Combo3.itens.front() + " " + f.Combo3.itens.back(), "3 40");
+    EXPECT_EQ(f.Combo4.itens, (std::vector<std::string>{"1.0", "1.5", "2.0", "3.0", "6.0"}));
+    EXPECT_TRUE(f.Option4.marcada && f.Option1.marcada);
+    EXPECT_EQ(f.flex_A.linhas, 41);
+    EXPECT_EQ(f.flex_A.colunas, 4);
+    EXPECT_EQ(f.lblPreenchidas.texto, "Células preenchidas: 0 de 120");
+    EXPECT_EQ(f.Label6.texto, "Ce20 = 39 m : Linha 1 - I(mm)");
+    EXPECT_FALSE(form3.visivel);
+}
+
+TEST_F(EnsaioDeCampo, CadaItemDoMenuMostraOSeuBotão) {
+    EXPECT_TRUE(formEC->Command4.visivel);
+    EXPECT_FALSE(formEC->Command6.visivel);
+    recomeçar();
+    clicar(form3, "PerfRad");
+    EXPECT_FALSE(formEC->Command4.visivel);
+    EXPECT_TRUE(formEC->Command6.visivel);
+}
+
+TEST_F(EnsaioDeCampo, OsCabeçalhosDizemLinhaLadoEDistância) {
+    EXPECT_EQ(coluna(0), (std::vector<std::string>{"", "Ce2 = 3 m", "Ce1 = 1 m", "Cd1 = 1 m", "Cd2 = 3 m"}));
+    EXPECT_EQ(célula(0, 1), "Linha 1 - I(mm)");
+    EXPECT_EQ(célula(0, 2), "Linha 2 - I(mm)");
+    escolher(formEC, "Combo4", "1.5");
+    EXPECT_EQ(coluna(0),
+              (std::vector<std::string>{"", "Ce2 = 2.25 m", "Ce1 = 0.75 m", "Cd1 = 0.75 m", "Cd2 = 2.25 m"}));
+    clicar(formEC, "Option3");
+    EXPECT_EQ(célula(0, 2), "Linha 2 - I(ml)");
+    EXPECT_EQ(célula(1, 1), "1.000") << "unit and spacing keep the readings";
+}
+
+TEST_F(EnsaioDeCampo, MudarONúmeroDeLinhasDescartaOQueFoiDigitado) {
+    escolher(formEC, "Combo1", "3");
+    EXPECT_EQ(formEC->flex_A.colunas, 4);
+    EXPECT_EQ(coluna(1), (std::vector<std::string>{"Linha 1 - I(mm)", "", "", "", ""}));
+    EXPECT_EQ(formEC->lblPreenchidas.texto, "Células preenchidas: 0 de 12");
+}
+
+TEST_F(EnsaioDeCampo, MudarONúmeroDeColetoresDescartaOQueFoiDigitado) {
+    escolher(formEC, "Combo3", "3");
+    EXPECT_EQ(formEC->flex_A.linhas, 7);
+    EXPECT_EQ(célula(1, 0), "Ce3 = 5 m");
+    EXPECT_EQ(formEC->lblPreenchidas.texto, "Células preenchidas: 0 de 12");
+}
+
+TEST_F(EnsaioDeCampo, EscolherOMesmoNúmeroFicaComOQueFoiDigitado) {
+    escolher(formEC, "Combo1", "2");
+    EXPECT_EQ(célula(4, 2), "8.000");
+}
+
+TEST_F(EnsaioDeCampo, OTextoDeUmaListaValeAoSair) {
+    digitar(formEC, "Combo1", "1");
+    digitar(formEC, "Combo1", "12");
+    EXPECT_EQ(formEC->flex_A.colunas, 3) << "nothing yet, while it is typed";
+    digitar(formEC, "Text6", "A");
+    EXPECT_EQ(formEC->flex_A.colunas, 13);
+    EXPECT_EQ(célula(0, 12), "Linha 12 - I(mm)");
+}
+
+TEST_F(EnsaioDeCampo, OTextoDeUmaListaValeComEnter) {
+    digitar(formEC, "Combo3", "1");
+    atos::confirmar();
+    EXPECT_EQ(formEC->flex_A.linhas, 3);
+}
+
+TEST_F(EnsaioDeCampo, OQueSeDigitavaNumaTelaQueSeFoiNãoVale) {
+    digitar(formEC, "Combo3", "7");
+    formEC.descarregar();
+    form3.mostrar();
+    clicar(form3, "EnsCampo");
+    EXPECT_EQ(formEC->Combo3.texto, "20");
+    EXPECT_EQ(formEC->flex_A.linhas, 41);
+}
+
+TEST_F(EnsaioDeCampo, UmaListaSemNúmeroDeixaAPlanilha) {
+    for (const auto* texto : {"", "duas", "0", "-1"}) {
+        digitar(formEC, "Combo1", texto);
+        atos::confirmar();
+        EXPECT_EQ(formEC->flex_A.colunas, 3);
+        EXPECT_EQ(célula(1, 1), "1.000");
+    }
+    EXPECT_EQ(caderno, std::vector<std::string>{});
+}
+
+TEST_F(EnsaioDeCampo, UmaPlanilhaGrandeDemaisÉRecusadaAntesDaMemória) {
+    for (const auto* texto : {"2000000000", "9000000"}) {
+        caderno.clear();
+        digitar(formEC, "Combo3", texto);
+        atos::confirmar();
+        EXPECT_EQ(caderno, std::vector<std::string>{"erro: Memória insuficiente"}) << texto;
+        EXPECT_EQ(formEC->flex_A.linhas, 5);
+    }
+}
+
+TEST_F(EnsaioDeCampo, AEntradaFormataAndaEConta) {
+    atos::preencherCélula(alvo(formEC, "flex_A"), 1, 2, "1.23456");
+    EXPECT_EQ(célula(1, 2), "1.235");
+    EXPECT_EQ(formEC->Label6.texto, "Ce1 = 1 m : Linha 1 - I(mm)");
+    EXPECT_EQ(formEC->Text5.texto, "3.000");
+    atos::preencherCélula(alvo(formEC, "flex_A"), 1, 2, "");
+    EXPECT_EQ(formEC->lblPreenchidas.texto, "Células preenchidas: 7 de 8");
+}
+
+TEST_F(EnsaioDeCampo, ODesenhoMostraLinhasLadosEspaçoESentido) {
+    EXPECT_EQ(formEC->lblEspaço.texto, "eC = 2.0 m");
+    EXPECT_EQ(formEC->lblDistância.texto, "eL = 6.0 m");
+    // 3 strokes of the lane, and for both lines one stroke and 4 collectors of two circles each. Across 3 m
+    // have 135 pixels, along 3 m have 80: 80 / 3 pixels a metre.
+    const auto& traços = formEC->Picture1.traços;
+    ASSERT_EQ(traços.size(), 3U + 2 * (1 + 8));
+    const auto& linha = std::get<Linha>(traços[3]);
+    EXPECT_NEAR(linha.x1, 150 - 80, 1e-9);
+    EXPECT_NEAR(linha.x2, 150 + 80, 1e-9);
+    EXPECT_NEAR(linha.y1, 20, 1e-9);
+    EXPECT_NEAR(std::get<Arco>(traços[4]).cx, 150 - 80.0 / 3, 1e-9);
+    EXPECT_NEAR(std::get<Linha>(traços[12]).y1, 180, 1e-9);
+    escolher(formEC, "Combo2", "1.0");
+    EXPECT_EQ(formEC->lblDistância.texto, "eL = 1.0 m");
+    // Now the width decides: 45 pixels a metre.
+    EXPECT_NEAR(std::get<Linha>(formEC->Picture1.traços[3]).x1, 15, 1e-9);
+    EXPECT_NEAR(std::get<Linha>(formEC->Picture1.traços[3]).y1, 100 - 22.5, 1e-9);
+}
+
+TEST_F(EnsaioDeCampo, UmaDistânciaQueNãoÉComprimentoDeixaSóOCarreador) {
+    digitar(formEC, "Combo4", "x");
+    atos::confirmar();
+    EXPECT_EQ(formEC->Picture1.traços.size(), 3U);
+}
+
+TEST_F(EnsaioDeCampo, LimparEsvaziaCaixasECélulasEDeixaAsListas) {
+    for (const auto* nome : {"Text6", "Text8", "Text13", "Text11", "Text12", "Text9", "Text1", "Text7", "Text2",
+                             "Text3"})
+        digitar(formEC, nome, "1");
+    clicar(formEC, "Command2");
+    const auto& f = *formEC.operator->();
+    EXPECT_EQ(f.Text6.texto + f.Text8.texto + f.Text13.texto + f.Text11.texto + f.Text12.texto + f.Text9.texto +
+                  f.Text1.texto + f.Text7.texto + f.Text2.texto + f.Text3.texto + f.Text5.texto,
+              "");
+    EXPECT_EQ(f.lblPreenchidas.texto, "Células preenchidas: 0 de 8");
+    EXPECT_EQ(f.Combo1.texto, "2");
+    EXPECT_EQ(célula(1, 0), "Ce2 = 3 m");
+}
+
+TEST_F(EnsaioDeCampo, FecharDevolveOMenuECadaAberturaComeçaDeNovo) {
+    clicar(formEC, "Command5");
+    EXPECT_FALSE(formEC.carregada());
+    EXPECT_TRUE(form3.visivel);
+    clicar(form3, "EnsCampo");
+    EXPECT_EQ(formEC->Combo1.texto, "3");
+    atos::fechar(formEC);
+    EXPECT_TRUE(form3.visivel);
+}
+
+// What is checked before going on.
+
+TEST_F(EnsaioDeCampo, ODiâmetroTemDeSerUmNúmeroParaVolumes) {
+    clicar(formEC, "Option3");
+    for (const auto* texto : {"", "oito"}) {
+        digitar(formEC, "Text7", texto);
+        esperarRecusa("Command4", "Diâmetro do coletor com valor numérico inválido!");
+        EXPECT_EQ(formEC->Text7.texto, "");
+    }
+}
+
+TEST_F(EnsaioDeCampo, ASobreposiçãoQuerColetoresA2_3Ou6m) {
+    for (const auto* espaço : {"1.0", "1.5"}) {
+        escolher(formEC, "Combo4", espaço);
+        esperarRecusa("Command4", "O espaçamento entre coletores deve ser 2, 3 ou 6 m!");
+    }
+}
+
+TEST_F(EnsaioDeCampo, OPerfilRadialQuerColetoresDaLista) {
+    abrirFormEC("PerfRad", {{"1"}, {"2"}, {"2"}, {"1"}});
+    digitar(formEC, "Combo4", "4");
+    esperarRecusa("Command6", "O espaçamento entre coletores deve ser 1, 1.5, 2, 3 ou 6 m!");
+    for (const auto* espaço : {"1.0", "1.5", "2.0", "3.0", "6.0"}) {
+        abrirFormEC("PerfRad", {{"1"}, {"2"}, {"2"}, {"1"}});
+        escolher(formEC, "Combo4", espaço);
+        respostas = {true, true};
+        clicar(formEC, "Command6");
+        EXPECT_TRUE(perfil.visivel) << espaço;
+    }
+}
+
+TEST_F(EnsaioDeCampo, TodasAsCélulasTêmDeEstarPreenchidasAntesDeSeremNúmeros) {
+    formEC->flex_A.escrever(1, 1, "x");
+    formEC->flex_A.escrever(4, 2, "");
+    esperarRecusa("Command4", "Há alguma célula da planilha vazia!");
+    EXPECT_EQ(formEC->flex_A.linhaAtual, 4);
+    EXPECT_EQ(formEC->flex_A.colunaAtual, 2);
+    EXPECT_EQ(controleComFoco, &formEC->Text5);
+    formEC->flex_A.escrever(1, 1, "x");
+    atos::preencherCélula(alvo(formEC, "flex_A"), 4, 2, "1");
+    esperarRecusa("Command4", "Insira valores numéricos!");
+}
+
+TEST_F(EnsaioDeCampo, ASobreposiçãoQuerVazãoEVelocidade) {
+    esperarRecusa("Command4", "Insira um valor numérico de vazão!");
+    digitar(formEC, "Text12", "N/E");
+    esperarRecusa("Command4", "Insira um valor numérico de vazão!");
+    digitar(formEC, "Text12", "30");
+    digitar(formEC, "Text11", "");
+    esperarRecusa("Command4", "Insira um valor numérico de velocidade!");
+}
+
+TEST_F(EnsaioDeCampo, OPerfilRadialPassaSemVazãoMasNãoComOutraCoisa) {
+    abrirFormEC("PerfRad", {{"1"}, {"2"}, {"2"}, {"1"}});
+    digitar(formEC, "Text12", "N/E");
+    esperarRecusa("Command6", "Insira um valor numérico de vazão!");
+    digitar(formEC, "Text12", "");
+    digitar(formEC, "Text11", "");
+    esperarRecusa("Command6", "Insira um valor numérico de velocidade!");
+}
+
+TEST_F(EnsaioDeCampo, AVazãoQueNãoÉNúmeroTemASuaMensagemNoPerfilRadial) {
+    // The check before the profile is made refuses it first.
+    EXPECT_STREQ(primeiraRecusa(verificaçõesDaVazãoDoEnsaio, "x"), "Valor numérico de vazão inválido!");
+    EXPECT_STREQ(primeiraRecusa(verificaçõesDaVazãoDoEnsaio, "0"), "Valor numérico de vazão inválido!");
+    EXPECT_EQ(primeiraRecusa(verificaçõesDaVazãoDoEnsaio, "30"), nullptr);
+}
+
+// The file.
+
+class ArquivoDoEnsaioDeCampo : public EnsaioDeCampo {
+  protected:
+    void SetUp() override {
+        EnsaioDeCampo::SetUp();
+        digitar(formEC, "Text12", "30.5");
+    }
+
+    std::string salvar(const char* nome = "ensaio.txt") {
+        arquivos = {pasta.caminho(nome)};
+        caderno.clear();
+        clicar(formEC, "Command1");
+        arquivos.clear();
+        return pasta.nomes().contains(nome) ? pasta.bytes(nome) : std::string{};
+    }
+    void esperarQueNãoSalva(const std::string& mensagem) {
+        EXPECT_EQ(salvar(), "");
+        EXPECT_EQ(caderno, std::vector{"mensagem: " + mensagem});
+    }
+    void abrir(const std::string& bytes) {
+        respostas = {true};
+        arquivos = {pasta.gravar("lido.txt", bytes)};
+        caderno.clear();
+        clicar(formEC, "Option2");
+    }
+    void esperarQueNãoAbre(const std::string& bytes, const std::string& mensagem = não) {
+        clicar(formEC, "Option3");
+        abrir(bytes);
+        ASSERT_EQ(caderno.size(), 3U) << bytes;
+        EXPECT_EQ(caderno.back(), mensagem) << bytes;
+        const auto& f = *formEC.operator->();
+        EXPECT_TRUE(f.Option1.marcada);
+        EXPECT_TRUE(f.Option4.marcada);
+        EXPECT_TRUE(f.Text5.visivel);
+        EXPECT_EQ(f.Combo1.texto + " " + f.Combo2.texto + " " + f.Combo3.texto + " " + f.Combo4.texto,
+                  "3 6.0 20 2.0");
+        EXPECT_EQ(f.flex_A.linhas, 41);
+        EXPECT_EQ(f.flex_A.colunas, 4);
+    }
+
+    PastaTemporaria pasta;
+};
+
+const std::string semLeituras = "Canhão A\r\n20 x 7\r\n45\r\n24\r\n30.5\r\n50\r\n360\r\n";
+const std::string leituras = "1.000\t2.000\r\n3.000\t4.000\r\n5.000\t6.000\r\n7.000\t8.000";
+
+TEST_F(ArquivoDoEnsaioDeCampo, EmMmTem14LinhasEAsLeiturasSemFimDeLinha) {
+    digitar(formEC, "Text6", "Canhão A");
+    digitar(formEC, "Text8", "20 x 7");
+    digitar(formEC, "Text13", "45");
+    digitar(formEC, "Text1", "24");
+    digitar(formEC, "Text2", "2.5");
+    digitar(formEC, "Text3", "90");
+    EXPECT_EQ(salvar(), semLeituras + "2\r\n6.0\r\n2\r\n2.0\r\n2.5\r\n90\r\n1\r\n" + leituras);
+    EXPECT_EQ(caderno, std::vector<std::string>{"salvar: Text files|*.TXT|All files|*.* TXT"});
+}
+
+TEST_F(ArquivoDoEnsaioDeCampo, EmMlTemODiâmetroEOQueEstáVazioÉNãoEspecificado) {
+    clicar(formEC, "Option3");
+    digitar(formEC, "Text7", "8");
+    EXPECT_EQ(salvar(), "Não Especificado\r\nN/E\r\nN/E\r\nN/E\r\n30.5\r\n50\r\n360\r\n2\r\n6.0\r\n2\r\n2.0\r\n\r\n"
+                        "\r\n2\r\n8\r\n" +
+                            leituras);
+}
+
+TEST_F(ArquivoDoEnsaioDeCampo, UmTextoSemVazãoVelocidadeEÂnguloOsDizNãoEspecificados) {
+    ArquivoMóvel arquivo{};
+    arquivo.unidade = UnidadeMóvel::mm;
+    EXPECT_EQ(textoDoArquivo(arquivo),
+              "Não Especificado\r\nN/E\r\nN/E\r\nN/E\r\nN/E\r\nN/E\r\nN/E\r\n\r\n\r\n\r\n\r\n\r\n\r\n1\r\n");
+}
+
+TEST_F(ArquivoDoEnsaioDeCampo, OQueSeSalvaSeLêNasDuasUnidades) {
+    escolher(formEC, "Combo3", "3");
+    for (int l = 1; l <= 6; ++l)
+        for (int c = 1; c <= 2; ++c)
+            atos::preencherCélula(alvo(formEC, "flex_A"), l, c, std::to_string(l) + "." + std::to_string(c));
+    digitar(formEC, "Text2", "2.5");
+    digitar(formEC, "Text3", "90");
+    for (const auto* unidade : {"Option4", "Option3"}) {
+        clicar(formEC, unidade);
+        if (unidade == std::string{"Option3"}) digitar(formEC, "Text7", "8");
+        const auto bytes = salvar();
+        clicar(formEC, "Command2");
+        escolher(formEC, "Combo1", "5");
+        abrir(bytes);
+        EXPECT_EQ(caderno, (std::vector<std::string>{perguntaDoArquivo, "abrir: Arquivos Texto (*.TXT)|*.TXT"}));
+        EXPECT_TRUE(formEC->Option2.marcada);
+        EXPECT_EQ(salvar("outra.txt"), bytes) << unidade;
+        clicar(formEC, "Option1");
+    }
+}
+
+TEST_F(ArquivoDoEnsaioDeCampo, UmArquivoEscritoÀMãoÉLido) {
+    // LF, "2" for the item "2.0", a spacing between lines that is in no item, blank lines at the end.
+    abrir("A\n20\n45\n24\n30\n40\n270\n1\n4.5\n3\n2\n\n\n2\n8\n10\n20\n30\n40\n50\n60.5555\n\n\n");
+    const auto& f = *formEC.operator->();
+    EXPECT_EQ(f.Text6.texto + f.Text8.texto + f.Text13.texto + f.Text1.texto, "A204524");
+    EXPECT_EQ(f.Text12.texto + " " + f.Text11.texto + " " + f.Text9.texto, "30 40 270");
+    EXPECT_EQ(f.Combo1.texto, "1");
+    EXPECT_EQ(f.Combo2.texto, "4.5");
+    EXPECT_EQ(f.Combo3.texto, "3");
+    EXPECT_EQ(f.Combo4.texto, "2.0");
+    EXPECT_TRUE(f.Option3.marcada);
+    EXPECT_EQ(f.Text7.texto, "8");
+    EXPECT_EQ(coluna(1), (std::vector<std::string>{"Linha 1 - I(ml)", "10.000", "20.000", "30.000", "40.000",
+                                                   "50.000", "60.556"}));
+    EXPECT_EQ(f.lblPreenchidas.texto, "Células preenchidas: 6 de 6");
+}
+
+TEST_F(ArquivoDoEnsaioDeCampo, LidoUmArquivoAPlanilhaNãoAdmiteEntradaAtéDigitar) {
+    abrir("A\n20\n45\n24\n30\n40\n270\n1\n6\n3\n2\n\n\n1\n1\n2\n3\n4\n5\n6");
+    EXPECT_FALSE(formEC->Text5.visivel || formEC->Label6.visivel || formEC->Label7.visivel);
+    EXPECT_EQ(recusaDe([] { atos::irParaCélula(alvo(formEC, "flex_A"), 1, 1); }),
+              "Form_EC.flex_A não admite entrada");
+    clicar(formEC, "Option1");
+    EXPECT_TRUE(formEC->Text5.visivel);
+    EXPECT_EQ(formEC->Text5.texto, "1.000");
+}
+
+TEST_F(ArquivoDoEnsaioDeCampo, NãoOuCanceladoVoltamADigitar) {
+    respostas = {false};
+    clicar(formEC, "Option2");
+    EXPECT_TRUE(formEC->Option1.marcada);
+    EXPECT_EQ(formEC->Text12.texto, "30.5");
+    respostas = {true};
+    arquivos = {std::nullopt};
+    clicar(formEC, "Option2");
+    EXPECT_TRUE(formEC->Option1.marcada);
+    EXPECT_EQ(formEC->Text12.texto, "");
+    EXPECT_EQ(célula(1, 1), "1.000");
+}
+
+TEST_F(ArquivoDoEnsaioDeCampo, AsLinhas8A11TêmDeSerNúmeros) {
+    const std::vector<std::string> linhas{"1", "6.0", "3", "2.0"};
+    for (std::size_t ruim = 0; ruim < linhas.size(); ++ruim)
+        for (const auto* texto : {"", "x"}) {
+            std::string bytes = semLeituras;
+            for (std::size_t k = 0; k < linhas.size(); ++k) bytes += (k == ruim ? texto : linhas[k]) + "\r\n";
+            esperarQueNãoAbre(bytes + "\r\n\r\n1\r\n1\r\n2\r\n3\r\n4\r\n5\r\n6");
+            EXPECT_EQ(formEC->Text6.texto, "Canhão A") << "what was read before stands";
+        }
+}
+
+TEST_F(ArquivoDoEnsaioDeCampo, LinhasQueNãoSãoQuantidadesSãoRecusadas) {
+    esperarQueNãoAbre(semLeituras + "0\r\n6\r\n3\r\n2\r\n\r\n\r\n1\r\n");
+    esperarQueNãoAbre(semLeituras + "1\r\n6\r\n-3\r\n4\r\n\r\n\r\n1\r\n");
+    esperarQueNãoAbre(semLeituras + "1\r\n6\r\n2000000000\r\n2\r\n\r\n\r\n1\r\n");
+}
+
+TEST_F(ArquivoDoEnsaioDeCampo, UmaUnidadeDesconhecidaÉRecusada) {
+    for (const auto* unidade : {"3", "", "mm"})
+        esperarQueNãoAbre(semLeituras + "1\r\n6\r\n3\r\n2\r\n\r\n\r\n" + unidade + "\r\n1\r\n2\r\n3\r\n4\r\n5\r\n6");
+}
+
+TEST_F(ArquivoDoEnsaioDeCampo, UmArquivoQueAcabaNoCabeçalhoOuFaltaÉRecusado) {
+    esperarQueNãoAbre("");
+    esperarQueNãoAbre(semLeituras + "1\r\n6\r\n3\r\n");
+    esperarQueNãoAbre(semLeituras + "1\r\n6\r\n3\r\n2\r\n\r\n\r\n2");
+    respostas = {true};
+    arquivos = {pasta.caminho("falta.txt")};
+    caderno.clear();
+    clicar(formEC, "Option2");
+    EXPECT_EQ(caderno.back(), não);
+}
+
+TEST_F(ArquivoDoEnsaioDeCampo, ColetoresDeMenosSãoRecusadosPeloEspaço) {
+    const auto bytes = [](const char* coletores, const char* espaço) {
+        return semLeituras + "1\r\n6\r\n" + coletores + "\r\n" + espaço + "\r\n\r\n\r\n1\r\n";
+    };
+    const std::string início = "mensagem: O número de coletores em cada linha deve ser maior que ";
+    esperarQueNãoAbre(bytes("3", "1"), início + "4!");
+    esperarQueNãoAbre(bytes("2", "1.5"), início + "3!");
+    esperarQueNãoAbre(bytes("2", "2"), início + "3!");
+    esperarQueNãoAbre(bytes("1", "3"), início + "2");
+    // At 6 m one collector is enough, and none is no count.
+    EXPECT_EQ(recusaDosColetores(6, 1), nullptr);
+    EXPECT_STREQ(recusaDosColetores(6, 0.5), "O número de coletores em cada linha deve ser maior que 1!");
+    EXPECT_EQ(recusaDosColetores(1, 4), nullptr);
+    EXPECT_EQ(recusaDosColetores(1.5, 3), nullptr);
+    EXPECT_EQ(recusaDosColetores(2, 3), nullptr);
+    EXPECT_EQ(recusaDosColetores(3, 2), nullptr);
+    EXPECT_EQ(recusaDosColetores(4, 1), nullptr);
+}
+
+TEST_F(ArquivoDoEnsaioDeCampo, UmaLeituraQueNãoÉNúmeroDeixaAPlanilhaEmParte) {
+    abrir(semLeituras + "1\r\n6\r\n3\r\n2\r\n\r\n\r\n2\r\n8\r\n1\r\n2\r\nx\r\n4\r\n5\r\n6");
+    EXPECT_EQ(caderno.back(), não);
+    EXPECT_TRUE(formEC->Option1.marcada);
+    EXPECT_EQ(coluna(1),
+              (std::vector<std::string>{"Linha 1 - I(ml)", "1.000", "2.000", "", "", "", ""}));
+    EXPECT_EQ(formEC->lblPreenchidas.texto, "Células preenchidas: 2 de 6");
+    EXPECT_EQ(formEC->Combo3.texto, "3");
+}
+
+TEST_F(ArquivoDoEnsaioDeCampo, LeiturasDeOutroTamanhoSãoRecusadas) {
+    const auto cabeça = semLeituras + "1\r\n6\r\n3\r\n2\r\n\r\n\r\n1\r\n";
+    for (const auto* resto : {"1\r\n2\r\n3\r\n4\r\n5", "1\r\n2\t9\r\n3\r\n4\r\n5\r\n6", "1\r\n\r\n3\r\n4\r\n5\r\n6",
+                              "1\r\n2\r\n3\r\n4\r\n5\r\n6\r\n7"}) {
+        abrir(cabeça + resto);
+        EXPECT_EQ(caderno.back(), não) << resto;
+        EXPECT_TRUE(formEC->Option1.marcada);
+        EXPECT_EQ(célula(1, 1), "1.000");
+    }
+}
+
+// What is checked before a save, in this order.
+
+TEST_F(ArquivoDoEnsaioDeCampo, VazãoEVelocidadeTêmDeSerNúmeros) {
+    for (const auto* texto : {"", "x"}) {
+        digitar(formEC, "Text12", texto);
+        digitar(formEC, "Text11", "x");
+        esperarQueNãoSalva("Insira um valor numérico de vazão!");
+        digitar(formEC, "Text12", "30");
+        digitar(formEC, "Text11", texto);
+        esperarQueNãoSalva("Insira um valor numérico de velocidade!");
+    }
+}
+
+TEST_F(ArquivoDoEnsaioDeCampo, VazãoVelocidadeEÂnguloNãoPodemFaltarNemSerZero) {
+    digitar(formEC, "Text9", "");
+    esperarQueNãoSalva("Valor de vazão, velocidade ou ângulo de giro inexistente!");
+    digitar(formEC, "Text9", "360");
+    for (const auto* nome : {"Text12", "Text11", "Text9"}) {
+        const auto antes = formEC->Text9.texto;
+        digitar(formEC, nome, "0");
+        esperarQueNãoSalva("Valor de vazão, velocidade ou ângulo de giro nulo!");
+        digitar(formEC, nome, "30");
+    }
+}
+
+TEST_F(ArquivoDoEnsaioDeCampo, OVentoDadoTemDeTerVelocidadeEDireçãoDentroDaFaixa) {
+    const auto vento = [](const char* velocidade, const char* direção) {
+        digitar(formEC, "Text2", velocidade);
+        digitar(formEC, "Text3", direção);
+    };
+    vento("x", "x");
+    esperarQueNãoSalva("Insira um valor numérico de velocidade do vento!");
+    vento("", "90");
+    esperarQueNãoSalva("Insira um valor numérico de velocidade do vento!");
+    vento("11", "");
+    esperarQueNãoSalva("Insira um valor numérico de direção do vento!");
+    for (const auto* velocidade : {"10.1", "-0.1"}) {
+        vento(velocidade, "361");
+        esperarQueNãoSalva("O valor de velocidade do vento deve estar entre 0 - 10 m/s!");
+    }
+    for (const auto* direção : {"360.5", "-1"}) {
+        vento("10", direção);
+        esperarQueNãoSalva("O valor de direção do vento deve estar entre 0 - 360º!");
+    }
+    for (const auto* direção : {"0", "360"}) {
+        vento("0", direção);
+        EXPECT_NE(salvar(), "");
+    }
+}
+
+TEST_F(ArquivoDoEnsaioDeCampo, AsListasTêmDeTerNúmeros) {
+    const auto recusa = [&](const char* nome, const char* texto, const char* mensagem) {
+        const auto antes = std::get<Lista*>(formEC.achar(nome, std::nullopt)->controle)->texto;
+        digitar(formEC, nome, texto);
+        esperarQueNãoSalva(mensagem);
+        digitar(formEC, nome, antes);
+        atos::confirmar();
+    };
+    for (const auto* texto : {"", "x", "0"}) {
+        recusa("Combo1", texto, "Número de linhas de coletores inválido!");
+        recusa("Combo3", texto, "Número de coletores em cada lada linha inválido!");
+        recusa("Combo2", texto, "Distância entre as linhas de coletores inválida!");
+        recusa("Combo4", texto, "Espaço entre coletores inválido!");
+    }
+}
+
+TEST_F(ArquivoDoEnsaioDeCampo, CadaCélulaTemDeSerUmNúmero) {
+    formEC->flex_A.escrever(3, 2, "x");
+    esperarQueNãoSalva("Insira um valores numéricos!");
+    formEC->flex_A.escrever(3, 2, "");
+    atos::irParaCélula(alvo(formEC, "flex_A"), 3, 2);
+    formEC->Text5.texto.clear();
+    esperarQueNãoSalva("Insira um valores numéricos!");
+}
+
+TEST_F(ArquivoDoEnsaioDeCampo, UmaFalhaAoSalvarÉContadaECancelarNãoSalva) {
+    arquivos = {std::nullopt, pasta.caminho("não existe/ensaio.txt")};
+    caderno.clear();
+    clicar(formEC, "Command1");
+    EXPECT_EQ(caderno.size(), 1U);
+    clicar(formEC, "Command1");
+    EXPECT_TRUE(caderno.back().starts_with("mensagem: Ocorreu um erro, o aquivo não pode ser salvo "));
+}
+
+TEST_F(ArquivoDoEnsaioDeCampo, PerfilSalvaOsDadosDoEnsaioEOsSeus22Pontos) {
+    abrirFormEC("PerfRad", {{"2"}, {"4"}, {"4"}, {"2"}});
+    digitar(formEC, "Text6", "Canhão B");
+    digitar(formEC, "Text12", "0.849");
+    clicar(formEC, "Command6");
+    arquivos = {pasta.caminho("perfil.txt")};
+    clicar(perfil, "Command4");
+    std::string esperado = "Canhão B\r\nN/E\r\nN/E\r\nN/E\r\n0.849\r\n22\r\n1\r\n";
+    for (std::size_t k = 1; k <= 22; ++k)
+        esperado += perfil->lblRaio[k].texto + "\t" + perfil->lblIntensidade[k].texto + "\r\n";
+    EXPECT_EQ(pasta.bytes("perfil.txt"), esperado);
+    EXPECT_NE(esperado.find("0.0\t26.19"), std::string::npos);
+}
+
+} // namespace
+} // namespace varenta::teste
