@@ -13,8 +13,8 @@ std::optional<std::string> pedirArquivoDeDados() {
 }
 
 void salvarArquivoDeDados(std::string_view texto, std::string_view falha, std::string_view fimDaFalha) {
-    const auto caminho =
-        plataforma::arquivoParaSalvar({.filtro = "Text files|*.TXT|All files|*.*", .extensãoPadrão = "TXT"});
+    const auto caminho = plataforma::arquivoParaSalvar(
+        {.filtro = "Text files|*.TXT|All files|*.*", .filtroInicial = 2, .extensãoPadrão = "TXT"});
     if (!caminho || caminho->empty()) return;
     try {
         gravarTexto(*caminho, texto);

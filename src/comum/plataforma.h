@@ -11,6 +11,8 @@ namespace varenta::plataforma {
 struct DialogoArquivo {
     /// "Text files|*.TXT|All files|*.*": names and masks, separated by bars.
     std::string filtro;
+    /// Which of the filters is chosen at first, from 1.
+    int filtroInicial = 1;
     /// Ending of a name typed without one, for saving; without its point.
     std::string extensãoPadrão = {};
 };

@@ -64,11 +64,12 @@ Dialogos dialogosDoQt() {
                 return escolherArquivo(diálogo);
             },
         .arquivoParaSalvar =
-            [](const QString& filtros, const QString& extensãoPadrão) {
+            [](const QString& filtros, int filtroInicial, const QString& extensãoPadrão) {
                 QFileDialog diálogo{
                     QApplication::activeWindow(), QStringLiteral("Salvar Arquivo"), {}, filtros};
                 diálogo.setAcceptMode(QFileDialog::AcceptSave);
                 diálogo.setOption(QFileDialog::DontConfirmOverwrite);
+                diálogo.selectNameFilter(diálogo.nameFilters().value(filtroInicial - 1));
                 diálogo.setDefaultSuffix(extensãoPadrão);
                 return escolherArquivo(diálogo);
             },
@@ -138,8 +139,8 @@ std::optional<std::string> arquivoParaAbrir(const DialogoArquivo& diálogo) {
 std::optional<std::string> arquivoParaSalvar(const DialogoArquivo& diálogo) {
     if (auto* roteiro = Interprete::ativo()) return roteiro->arquivoParaSalvar(diálogo);
     preparar();
-    return caminho(
-        dialogos().arquivoParaSalvar(filtrosDoQt(qtexto(diálogo.filtro)), qtexto(diálogo.extensãoPadrão)));
+    return caminho(dialogos().arquivoParaSalvar(filtrosDoQt(qtexto(diálogo.filtro)), diálogo.filtroInicial,
+                                                qtexto(diálogo.extensãoPadrão)));
 }
 
 void ajuda(std::optional<int> tópico) {

@@ -16,7 +16,9 @@ struct Dialogos {
     std::function<void(const QString& texto)> erroDeExecucao;
     /// The path chosen; nothing where the dialog was cancelled. Filters as Qt writes them.
     std::function<std::optional<QString>(const QString& filtros)> arquivoParaAbrir;
-    std::function<std::optional<QString>(const QString& filtros, const QString& extensãoPadrão)>
+    /// `filtroInicial` counts from 1.
+    std::function<std::optional<QString>(const QString& filtros, int filtroInicial,
+                                         const QString& extensãoPadrão)>
         arquivoParaSalvar;
     /// Shows a topic of the help, without one its index. Raises a run-time error where it can't.
     std::function<void(std::optional<int> tópico)> ajuda;

@@ -29,6 +29,8 @@ FonteDoAspersor aspersorMedido() {
 
 FonteDoAspersor aspersorEmUso() { return form7->Command2.visivel ? aspersorDoCatálogo() : aspersorMedido(); }
 
+float espaçamentoDosColetores() { return simples(lerPrefixo(form7->Combo2.texto)); }
+
 DadosDaSimulação lerSimulação(const FonteDoAspersor& fonte) {
     DadosDaSimulação dados{};
     auto& c = dados.condições;
@@ -40,7 +42,7 @@ DadosDaSimulação lerSimulação(const FonteDoAspersor& fonte) {
     c.D = lerPrefixo(f.Text5.texto) * c.R;
     c.E = lerPrefixo(f.Text6.texto) * c.R;
     c.F = lerPrefixo(f.Text7.texto) * c.R;
-    dados.S = simples(lerPrefixo(f.Combo2.texto));
+    dados.S = espaçamentoDosColetores();
     c.anguloSecoI = lerPrefixo(f.Label24.texto);
     c.anguloSecoII = lerPrefixo(f.Label33.texto);
     c.anguloGiro = 360 - (c.anguloSecoI + c.anguloSecoII);

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "comum/controles.h"
-#include "simulacao/perfil_transversal.h"
+#include "simulacao/campo_intensidades.h"
 
 #include <span>
 #include <string>
@@ -30,6 +30,9 @@ FonteDoAspersor aspersorMedido();
 
 /// The sprinkler of the road that the screens are on: that of the buttons that `Form7` shows.
 FonteDoAspersor aspersorEmUso();
+
+/// The spacing of the points of `Form7`, m.
+float espaçamentoDosColetores();
 
 /// Reads the sprinkler, and the run from `Form7`.
 DadosDaSimulação lerSimulação(const FonteDoAspersor& fonte);

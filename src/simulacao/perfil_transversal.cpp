@@ -1,5 +1,6 @@
 #include "simulacao/perfil_transversal.h"
 
+#include "comum/ampulheta.h"
 #include "comum/numeros.h"
 #include "simulacao/campo_intensidades.h"
 #include "simulacao/fonte_aspersor.h"
@@ -70,6 +71,7 @@ void desenharGráfico(const PerfilTransversal& perfil, double S) {
 
 /// The chart of the intensities can be had from then on, by the road's own button.
 void calcular(const FonteDoAspersor& fonte, Botao& gráficoDeIntensidades) {
+    const Ampulheta ampulheta{form7};
     const auto dados = lerSimulação(fonte);
     const auto perfil = perfilTransversal(dados);
     escreverTabela(form7->flexA, perfil);

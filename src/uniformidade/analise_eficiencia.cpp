@@ -14,6 +14,7 @@
 #include "uniformidade/form9.h"
 #include "uniformidade/graficos_form9.h"
 
+#include <algorithm>
 #include <cmath>
 #include <span>
 
@@ -30,11 +31,6 @@ Matriz lerLâminas(const Grade& grade) {
     return lâminas;
 }
 
-/// The volume applied, m³; `horas` is the time of the whole irrigation.
-double volumeAplicado(double horas, const FonteDoAspersor& fonte) {
-    return horas * lerPrefixo(fonte.vazão.texto);
-}
-
 double horasDeIrrigação() {
     return dividir(lerPrefixo(form5->txtMan.texto), lerPrefixo(form7->Text1.texto)) +
            lerPrefixo(form5->txtParada.texto) / 60 + lerPrefixo(form5->Text4.texto) / 60;
@@ -43,10 +39,10 @@ double horasDeIrrigação() {
 void escreverVolumes(double horas, double Vt, const VolumesDaFaixa& volumes) {
     constexpr auto padrão = "#0.00";
     auto& f = *form9.operator->();
-    const auto erro = dividir(100 * std::fabs(Vt - volumes.total), Vt);
     f.Label3.texto = "Volume Total Aplicado: " + Format(Vt, padrão) + " m³";
     f.Label4.texto = "Tempo de Irrigação: " + Format(horas, padrão) + " h";
-    f.Label5.texto = "Erro Volumétrico: " + Format(erro, padrão) + " %";
+    f.Label5.texto =
+        "Erro Volumétrico: " + Format(dividir(100 * std::fabs(Vt - volumes.total), Vt), padrão) + " %";
     f.Label6.texto = "Volume Perdido nas Extremidades: " + Format(volumes.perdido, padrão) + " m³";
 }
 
@@ -67,8 +63,25 @@ void escreverTabela(std::span<const LâminaRequerida> mostradas) {
     }
 }
 
-/// A tick step of whole tenths with which `divisões` of them reach past `maior`.
-double passoAté(double maior, int divisões) { return (Int(maior / divisões * 10) + 1) / 10; }
+/// An axis of required depths: it covers 0 and every depth shown, in steps of whole tenths.
+struct EixoDeLâminas {
+    double início, fim;
+
+    double fração(double Ir) const { return dividir(Ir - início, fim - início); }
+};
+
+EixoDeLâminas escreverEixo(std::span<Rotulo> rótulos, std::span<const LâminaRequerida> mostradas) {
+    double menor = 0, maior = 0;
+    for (const auto& lâmina : mostradas) {
+        menor = std::min(menor, lâmina.Ir);
+        maior = std::max(maior, lâmina.Ir);
+    }
+    // Below 0 the first tick is a whole step too, so one division less is left for the depths.
+    const auto divisões = static_cast<double>(rótulos.size()) - (menor < 0 ? 2 : 1);
+    const double passo = (Int((maior - menor) / divisões * 10) + 1) / 10;
+    const double início = passo * Int(menor / passo);
+    return {início, escreverEscala(rótulos, início, passo, "0.0")};
+}
 
 void desenharPontos(Desenho& desenho, std::span<const LâminaRequerida> mostradas,
                     const std::function<PontoDoDesenho(const LâminaRequerida&)>& lugar) {
@@ -80,14 +93,15 @@ void desenharPontos(Desenho& desenho, std::span<const LâminaRequerida> mostrada
     desenho.estiloPreenchimento(EstiloPreenchimento::transparente);
 }
 
-void desenharÁreas(std::span<const LâminaRequerida> mostradas, double maior) {
+void desenharÁreas(std::span<const LâminaRequerida> mostradas) {
     constexpr auto& malha = malhaDaÁrea;
     auto& desenho = form9->Picture1;
-    const double topo = escreverEscala(form9->Label26, 0, passoAté(maior, 6), "0.0");
+    const auto eixo = escreverEixo(form9->Label26, mostradas);
     prepararGráfico(desenho, malha);
     desenho.larguraTraco(2);
     const auto lugar = [&](double AD, double Ir) {
-        return PontoDoDesenho{malha.esquerda + malha.largura() * AD, malha.base - malha.altura() * Ir / topo};
+        return PontoDoDesenho{malha.esquerda + malha.largura() * AD,
+                              malha.base - malha.altura() * eixo.fração(Ir)};
     };
     desenharCurva(desenho, cores::azul, mostradas.size(),
                   [&](std::size_t r) { return lugar(mostradas[r].ADest, mostradas[r].Ir); });
@@ -95,15 +109,15 @@ void desenharÁreas(std::span<const LâminaRequerida> mostradas, double maior) {
                    [&](const LâminaRequerida& lâmina) { return lugar(lâmina.ADobs / 100, lâmina.Ir); });
 }
 
-void desenharEficiências(std::span<const LâminaRequerida> mostradas, double maior) {
+void desenharEficiências(std::span<const LâminaRequerida> mostradas) {
     constexpr auto& malha = malhaDasEficiências;
     auto& desenho = form9->Picture2;
-    const double direita = escreverEscala(form9->Label27, 0, passoAté(maior, 10), "0.0");
+    const auto eixo = escreverEixo(form9->Label27, mostradas);
     prepararGráfico(desenho, malha);
     desenho.larguraTraco(2);
     const auto curva = [&](double LâminaRequerida::*eficiência, Cor cor) {
         const auto lugar = [&](const LâminaRequerida& lâmina) {
-            return PontoDoDesenho{malha.esquerda + malha.largura() * lâmina.Ir / direita,
+            return PontoDoDesenho{malha.esquerda + malha.largura() * eixo.fração(lâmina.Ir),
                                   malha.base - malha.altura() * (lâmina.*eficiência) / 100};
         };
         desenharCurva(desenho, cor, mostradas.size(), [&](std::size_t r) { return lugar(mostradas[r]); });
@@ -120,22 +134,22 @@ bool analisar(const FonteDoAspersor& fonte) {
         return false;
     }
     const Ampulheta ampulheta{form5};
-    const double s = simples(lerPrefixo(form7->Combo2.texto)), A = s * s;
+    const double s = espaçamentoDosColetores(), A = s * s;
     const auto lâminas = lerLâminas(form8->flexGrid_C);
     // Every point of the profile is one of `Form7`'s rows; half of them lie on each side of the lane.
     const auto bandas = lerBandas((form7->flexA.linhas - 1) / 2, s, R);
 
     const auto volumes = somarVolumes(lâminas, A, bandas.início, bandas.fim);
-    const double horas = horasDeIrrigação(), Vt = volumeAplicado(horas, fonte);
+    const double horas = horasDeIrrigação(), Vt = horas * lerPrefixo(fonte.vazão.texto);
     escreverVolumes(horas, Vt, volumes);
     const auto tabela =
         analisarFaixa(lâminas, A, bandas.início, bandas.fim, dividir(volumes.soma, volumes.células), Vt);
     const auto mostradas =
         std::span{tabela}.subspan(primeiraLâminaMostrada(tabela, lerPrefixo(form5->Label7.texto)));
     escreverTabela(mostradas);
-    const double maior = mostradas.empty() ? 0 : mostradas.front().Ir;
-    desenharÁreas(mostradas, maior);
-    desenharEficiências(mostradas, maior);
+    desenharÁreas(mostradas);
+    desenharEficiências(mostradas);
+    form9->Command1.habilitado = true;
     return true;
 }
 

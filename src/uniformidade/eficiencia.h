@@ -42,7 +42,8 @@ using TabelaDeEficiências = std::array<LâminaRequerida, lâminasRequeridas>;
 double caudaNormal(double z);
 
 /// The required depths, from the largest to the smallest, with their efficiencies. `média` is the mean of the
-/// strip's depths (mm), `Vt` the volume applied (m³). Raises "Estouro" for equal depths, and "Chamada de
+/// strip's depths (mm), `Vt` the volume applied (m³). Raises "Estouro" where no depth differs from
+/// the mean, and "Chamada de
 /// procedimento ou argumento inválido" where a negative mean makes the base of a power negative.
 TabelaDeEficiências analisarFaixa(const Matriz& lâminas, double A, int a0, int a3, double média, double Vt);
 

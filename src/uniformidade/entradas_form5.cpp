@@ -4,6 +4,7 @@
 #include "comum/operacoes.h"
 #include "comum/plataforma.h"
 #include "comum/verificacoes.h"
+#include "simulacao/fonte_aspersor.h"
 #include "simulacao/form7.h"
 #include "uniformidade/form4.h"
 #include "uniformidade/form5.h"
@@ -24,8 +25,7 @@ bool tempoVálido(const ExtremoDaFaixa& extremo) {
 
 bool carreadorVálido(double R) {
     auto& caixa = form5->txtMan;
-    const auto mensagem =
-        recusaDoCarreador(lerPrefixo(caixa.texto), R, simples(lerPrefixo(form7->Combo2.texto)));
+    const auto mensagem = recusaDoCarreador(lerPrefixo(caixa.texto), R, espaçamentoDosColetores());
     if (mensagem.empty()) return true;
     plataforma::mensagem(mensagem);
     definirTexto(caixa, "300");

@@ -39,9 +39,10 @@ void desenharCota(Desenho& desenho, double x, double de, double até, Cor cor) {
 
 void desenharEsboço() {
     auto& f = *form5.operator->();
-    const double Ci = comprimento(f.txtOutro.texto), Cf = comprimento(f.Text3.texto);
-    const double Cc = comprimento(f.txtMan.texto), E = comprimento(form4->cmbEspaçamento.texto);
     const double R = comprimento(aspersorEmUso().raio.texto);
+    const double Ci = std::min(comprimento(f.txtOutro.texto), R),
+                 Cf = std::min(comprimento(f.Text3.texto), R);
+    const double Cc = comprimento(f.txtMan.texto), E = comprimento(form4->cmbEspaçamento.texto);
     // The wetted circles reach the reach beyond the lane's ends and, around both lanes, beside them.
     const double escala = std::min((altura - 2 * margem) / std::max(Cc + 2 * R, 1.0),
                                    (largura - 4 * margem) / std::max(E + 2 * R, 1.0));

@@ -4,6 +4,7 @@
 #include "comum/numeros.h"
 #include "comum/operacoes.h"
 #include "comum/plataforma.h"
+#include "simulacao/fonte_aspersor.h"
 #include "simulacao/form7.h"
 #include "uniformidade/caminho.h"
 #include "uniformidade/graficos_sobreposicao.h"
@@ -20,7 +21,7 @@ bool espaçamentoAceito() {
     const char* mensagem = nullptr;
     if (paraInteiro(E) % 6 != 0)
         mensagem = "O valor de espaçamento deve ser múltiplo de seis!";
-    else if (dividir(E, simples(lerPrefixo(form7->Combo2.texto))) == 0)
+    else if (dividir(E, espaçamentoDosColetores()) == 0)
         mensagem = "Valor de espaçamento inválido!";
     if (!mensagem) return true;
     plataforma::mensagem(mensagem);
@@ -56,8 +57,8 @@ void form4_Command9_Click() {
     if (!espaçamentoAceito()) return;
     auto& grade = form4->flexGrid_B;
     for (int c = 0; c < grade.colunas && grade.linhas > 1; ++c) grade.escrever(1, c, "");
-    const int n = posiçõesEntreCarreadores(lerPrefixo(form4->cmbEspaçamento.texto),
-                                           simples(lerPrefixo(form7->Combo2.texto)));
+    const int n =
+        posiçõesEntreCarreadores(lerPrefixo(form4->cmbEspaçamento.texto), espaçamentoDosColetores());
     grade.dimensionar(n + 1, 4);
     sobreporEspacamento();
     form4->Command5.habilitado = true;

@@ -25,6 +25,9 @@ namespace {
 void desabilitarResultados() {
     auto& f = *form5.operator->();
     desabilitar({&f.Command3, &f.Command11, &f.Command12, &f.Command15, &f.Command16});
+    // Their reports would mix these inputs with the results of others.
+    if (form8.carregada()) form8->Command1.habilitado = false;
+    if (form9.carregada()) form9->Command1.habilitado = false;
 }
 
 double raioDeAlcance() { return lerPrefixo(aspersorEmUso().raio.texto); }

@@ -25,7 +25,8 @@ void form9_Picture1_MouseMove(double x, double y) {
         return;
     }
     form9.ponteiro = Ponteiro::cruz;
-    const double Ir = lerPrefixo(f.Label26.back().texto) * (malha.base - y) / malha.altura();
+    const double de = lerPrefixo(f.Label26.front().texto), até = lerPrefixo(f.Label26.back().texto);
+    const double Ir = de + (até - de) * (malha.base - y) / malha.altura();
     f.lblIr1.texto = "Ir = " + Format(Ir, "0.000") + " mm";
     f.lblAD.texto = "ADobs. e ADest. = " + Format((x - malha.esquerda) / malha.largura(), "0.000");
 }
@@ -40,7 +41,8 @@ void form9_Picture2_MouseMove(double x, double y) {
         return;
     }
     form9.ponteiro = Ponteiro::cruz;
-    const double Ir = lerPrefixo(f.Label27.back().texto) * (x - malha.esquerda) / malha.largura();
+    const double de = lerPrefixo(f.Label27.front().texto), até = lerPrefixo(f.Label27.back().texto);
+    const double Ir = de + (até - de) * (x - malha.esquerda) / malha.largura();
     f.lblIr2.texto = "Ir = " + Format(Ir, "0.000") + " mm";
     f.lblEf.texto =
         "Ef. Apl. ou Ef. Arm. = " + Format(100 * (malha.base - y) / malha.altura(), "0.000") + " %";

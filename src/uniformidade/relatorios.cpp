@@ -61,6 +61,7 @@ std::string relatórioComTabela(const Grade& grade) {
     linhaDeValor(texto, "Imédio Toda Faixa ", f5.Label8.texto, " mm");
     linhas(texto, {&f4.Label37, &f4.Label38});
     for (int l = 0; l < grade.linhas; ++l) linhaDaTabela(texto, grade, l);
+    acrescentarLinha(texto, "");
     return texto;
 }
 

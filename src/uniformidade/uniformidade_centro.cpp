@@ -2,6 +2,7 @@
 
 #include "comum/numeros.h"
 #include "comum/operacoes.h"
+#include "simulacao/fonte_aspersor.h"
 #include "simulacao/form7.h"
 #include "uniformidade/form4.h"
 #include "uniformidade/form5.h"
@@ -23,7 +24,7 @@ struct PerfilMostrado {
 PerfilMostrado lerPerfil() {
     const auto& flexA = form7->flexA;
     const int N = (flexA.linhas - 1) / 2;
-    PerfilMostrado perfil{simples(lerPrefixo(form7->Combo2.texto)), {}, {}};
+    PerfilMostrado perfil{espaçamentoDosColetores(), {}, {}};
     for (int j = 1; j <= N; ++j) {
         perfil.direita.push_back(lerPrefixo(flexA.célula(N + j, 2)));
         perfil.esquerda.push_back(lerPrefixo(flexA.célula(N + 1 - j, 2)));
@@ -78,8 +79,10 @@ void calcularMaiorCUC() {
 void sobreporEspacamento() {
     const auto perfil = lerPerfil();
     auto& f = *form4.operator->();
-    const double E = lerPrefixo(f.cmbEspaçamento.texto);
-    const auto soma = sobrepor(perfil.direita, perfil.esquerda, posiçõesEntreCarreadores(E, perfil.s));
+    const int n = posiçõesEntreCarreadores(lerPrefixo(f.cmbEspaçamento.texto), perfil.s);
+    // The theoretical depth isn't shown; but where there is no position, its division is what fails.
+    dividir(1000 * lerPrefixo(aspersorEmUso().vazão.texto), perfil.s * n * lerPrefixo(form7->Text1.texto));
+    const auto soma = sobrepor(perfil.direita, perfil.esquerda, n);
     for (std::size_t P = 0; P < soma.total.size(); ++P) {
         const int linha = static_cast<int>(P) + 1;
         f.flexGrid_B.escrever(linha, 1, Format(soma.direita[P], "#0.000"));

@@ -25,7 +25,7 @@ double horasParadas(const ExtremoDaFaixa& extremo) {
 /// Fills `Form8`'s table: positions between the lanes across, positions along the lane downward.
 void escreverTabela(Grade& grade, const Faixa& faixa) {
     const int M = static_cast<int>(faixa.lâminas.linhas()), n = static_cast<int>(faixa.lâminas.colunas());
-    grade.dimensionar(1, 1);
+    grade.dimensionar(1, 1); // empties it
     grade.dimensionar(M + 1, n + 1);
     for (int P = 1; P <= n; ++P) grade.escrever(0, P, paraTexto((P - 0.5) * faixa.s) + "  m");
     for (int a = 1; a <= M; ++a) {
@@ -118,6 +118,7 @@ bool calcular(const FonteDoAspersor& fonte) {
     avisarDoModelo(form5->lblAviso, faixa.contagem);
     escreverBandas(faixa, lerBandas(faixa.N, faixa.s, dados->simulação.condições.R));
     desenharGráfico(faixa);
+    form8->Command1.habilitado = true;
     return true;
 }
 
