@@ -26,6 +26,8 @@ void erroDeExecucao(std::string_view texto);
 /// The path chosen, in UTF-8; nothing where the dialog was cancelled.
 std::optional<std::string> arquivoParaAbrir(const DialogoArquivo& diálogo);
 std::optional<std::string> arquivoParaSalvar(const DialogoArquivo& diálogo);
+/// A long run has come further: the value of its bar and the text of its label, of which one has changed.
+void progresso(double valor, std::string_view texto);
 /// The program is to end: the main window was closed.
 void encerrar();
 

@@ -132,6 +132,11 @@ std::optional<std::string> arquivoParaSalvar(const DialogoArquivo& diálogo) {
         dialogos().arquivoParaSalvar(filtrosDoQt(qtexto(diálogo.filtro)), qtexto(diálogo.extensãoPadrão)));
 }
 
+void progresso(double valor, std::string_view texto) {
+    if (auto* roteiro = Interprete::ativo()) roteiro->progresso(valor, texto);
+    preparar();
+}
+
 void encerrar() {
     if (auto* roteiro = Interprete::ativo()) return roteiro->encerrar();
     // Not quit(), which would ask every window to close once more.

@@ -1,6 +1,7 @@
 #include "roteiro/interprete.h"
 
 #include "comum/arquivo_texto.h"
+#include "comum/numeros.h"
 #include "roteiro/apresentacao.h"
 #include "roteiro/palavras.h"
 #include "shell/sistema.h"
@@ -297,6 +298,10 @@ bool Interprete::perguntar(std::string_view texto) {
 void Interprete::avisar(std::string_view texto) { imprimir("aviso: " + escapar(texto) + '\n'); }
 
 void Interprete::erroDeExecucao(std::string_view texto) { imprimir("erro: " + escapar(texto) + '\n'); }
+
+void Interprete::progresso(double valor, std::string_view texto) {
+    if (mostrarProgresso) imprimir("progresso: " + paraTexto(valor) + ' ' + escapar(texto) + '\n');
+}
 
 std::optional<std::string> Interprete::arquivoParaAbrir() {
     const auto caminho = tirarResposta(arquivos_, "o diálogo do arquivo para abrir");

@@ -29,6 +29,8 @@ std::optional<std::string> arquivoParaSalvar(const DialogoArquivo& diálogo) {
     return ativo().arquivoParaSalvar(diálogo);
 }
 
+void progresso(double valor, std::string_view texto) { ativo().progresso(valor, texto); }
+
 void encerrar() { ativo().encerrar(); }
 
 } // namespace varenta::plataforma

@@ -8,12 +8,14 @@
 namespace varenta::teste {
 
 std::vector<std::string> caderno;
+std::vector<PassoDeProgresso> progressos;
 std::deque<bool> respostas;
 std::deque<std::optional<std::string>> arquivos;
 
 void recomeçar() {
     iniciarSistema();
     caderno.clear();
+    progressos.clear();
     respostas.clear();
     arquivos.clear();
 }
@@ -61,6 +63,8 @@ std::optional<std::string> arquivoParaSalvar(const DialogoArquivo& diálogo) {
     anotar("salvar", diálogo.filtro + " " + diálogo.extensãoPadrão);
     return próxima(arquivos, diálogo.filtro);
 }
+
+void progresso(double valor, std::string_view texto) { progressos.push_back({valor, std::string{texto}}); }
 
 void encerrar() { caderno.push_back("encerrar"); }
 

@@ -11,6 +11,13 @@ namespace varenta::teste {
 /// Everything told to the person, in order: "mensagem: ...", "pergunta: ...", "aviso: ...", "erro: ...",
 /// "abrir: <filter>", "salvar: <filter> <ending>", "encerrar".
 extern std::vector<std::string> caderno;
+/// The steps of long runs, in order.
+struct PassoDeProgresso {
+    double valor;
+    std::string texto;
+    bool operator==(const PassoDeProgresso&) const = default;
+};
+extern std::vector<PassoDeProgresso> progressos;
 extern std::deque<bool> respostas;
 /// Paths for the next file dialogs; nothing is a cancelled dialog.
 extern std::deque<std::optional<std::string>> arquivos;
