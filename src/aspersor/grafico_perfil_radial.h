@@ -1,6 +1,9 @@
 #pragma once
 
 #include "comum/grafico.h"
+#include "comum/tela.h"
+
+#include <span>
 
 namespace varenta {
 
@@ -15,5 +18,10 @@ inline constexpr MalhaDeGráfico malhaDoPerfilRadial{
     .grossasVerticais = {1680, 525, 9},
     .grossasHorizontais = {945, 525, 5},
 };
+
+/// The read-out of the chart, which works from the tick captions: the pointer over the screen, radius and
+/// intensity at the mouse. Beside the chart the captions stay.
+void lerNoPerfilRadial(TelaBase& tela, std::span<const Rotulo> Label6, std::span<const Rotulo> Label7,
+                       Rotulo& Label15, Rotulo& Label16, double x, double y);
 
 } // namespace varenta

@@ -23,6 +23,15 @@ double emUmaVolta(double angulo) {
     return angulo;
 }
 
+/// The same circle at the place of every collector, and at the sample beside its caption.
+void desenharColetores(Desenho& desenho, double raio, Cor cor) {
+    for (const double y : std::array{4090.0, 4590.0, 5090.0})
+        for (int k = 0; k < 12; ++k) desenho.arco(80 + 250 * k, y, raio, cor);
+    desenho.arco(2230, 6870, raio, cor);
+}
+
+} // namespace
+
 void desenharVento(Desenho& desenho, double direção) {
     constexpr double cx = 1455, cy = 1125, raio = 450, haste = 400, barbela = 120;
     const double x = cx + raio * std::sin(direção), y = cy - raio * std::cos(direção);
@@ -35,15 +44,6 @@ void desenharVento(Desenho& desenho, double direção) {
     para(barbela, direção - radianos(30));
     para(barbela, direção + radianos(30));
 }
-
-/// The same circle at the place of every collector, and at the sample beside its caption.
-void desenharColetores(Desenho& desenho, double raio, Cor cor) {
-    for (const double y : std::array{4090.0, 4590.0, 5090.0})
-        for (int k = 0; k < 12; ++k) desenho.arco(80 + 250 * k, y, raio, cor);
-    desenho.arco(2230, 6870, raio, cor);
-}
-
-} // namespace
 
 void desenharDiagrama(Desenho& desenho, int direção, int anguloSecoI, int anguloSecoII, int rotacao) {
     const double dir = radianos(direção), a1 = radianos(anguloSecoI), a2 = radianos(anguloSecoII),
