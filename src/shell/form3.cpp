@@ -1,5 +1,6 @@
 #include "shell/form3.h"
 
+#include "ajuste/form_ajven.h"
 #include "aspersor/atualizar_aspersor.h"
 #include "aspersor/form1.h"
 #include "comum/ajuda.h"
@@ -21,6 +22,13 @@ void abrirAspersor(const ModeloDeAspersor& modelo) {
     form3.habilitada = false;
 }
 
+/// Opens the fit of the wind parameters for a catalogue sprinkler.
+void abrirAjuste(const ModeloDeAspersor& modelo, Método método) {
+    fecharTelas();
+    form3.esconder();
+    abrirFormAjVen(modelo, método);
+}
+
 } // namespace
 
 void form3_Load() { associarAjuda(); }
@@ -34,5 +42,12 @@ void form3_Fechar() {
 void form3_TX15B_Click() { abrirAspersor(modeloTX15); }
 void form3_TX20B_Click() { abrirAspersor(modeloTX20); }
 void form3_TX30B_Click() { abrirAspersor(modeloTX30); }
+
+void form3_TX15c_Click() { abrirAjuste(modeloTX15, Método::malha); }
+void form3_TX20c_Click() { abrirAjuste(modeloTX20, Método::malha); }
+void form3_TX30c_Click() { abrirAjuste(modeloTX30, Método::malha); }
+void form3_TX15d_Click() { abrirAjuste(modeloTX15, Método::autopropelido); }
+void form3_TX20d_Click() { abrirAjuste(modeloTX20, Método::autopropelido); }
+void form3_TX30d_Click() { abrirAjuste(modeloTX30, Método::autopropelido); }
 
 } // namespace varenta

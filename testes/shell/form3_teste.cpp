@@ -67,8 +67,8 @@ TEST_F(TelaPrincipal, CarregarNomeiaOArquivoDeAjuda) {
 }
 
 TEST_F(TelaPrincipal, ItensSemTelaEstãoDesabilitados) {
-    for (const char* nome : {"Ou_aspB", "PerfRad", "EnsCampo", "TX15c", "TX20c", "TX30c", "Ou_aspC", "TX15d",
-                             "TX20d", "TX30d", "OuAsp_Auto", "varenta", "ajudaProg"})
+    for (const char* nome :
+         {"Ou_aspB", "PerfRad", "EnsCampo", "Ou_aspC", "OuAsp_Auto", "varenta", "ajudaProg"})
         EXPECT_EQ(recusaDe([&] { atos::clicar(alvo(form3, nome)); }),
                   "Form3." + std::string{nome} + " está desabilitado");
     EXPECT_TRUE(form3.visivel);
