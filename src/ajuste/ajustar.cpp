@@ -83,7 +83,8 @@ ResultadoDaBusca buscar(const std::vector<Ensaio>& ensaios, double tolerância, 
     } catch (const ErroExecucao& e) {
         throw ErroExecucao{e.what() + std::string{": o ajuste não pôde continuar com estes ensaios. Em geral "
                                                   "ajuda informar um vento acima de 0 m/s e coletores que "
-                                                  "alcancem além da área molhada."}};
+                                                  "alcancem além da área molhada, nenhum deles no lugar do "
+                                                  "aspersor."}};
     }
 }
 

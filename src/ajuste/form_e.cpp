@@ -19,14 +19,20 @@ TelaDeEnsaio tela() {
     return {form_E(n), *form_E(n).operator->(), n};
 }
 
+/// The grid with `lado` rows and columns, headers included.
+void montarPlanilha(RegistroFormE& f, int lado) {
+    dimensionarPlanilha(f, lado, lado);
+    escreverCabeçalhosDaMalha(f.flex_A, "Co", inteiroDaLista(f.Combo2), lerPrefixo(f.Combo1.texto));
+    entrarNaCélula(planilhaDoEnsaio(f));
+}
+
 /// A number typed makes the grid larger at once, but never smaller: rows and columns beyond it keep their
 /// readings and lose their headers, until a list is picked from.
 void digitarTamanho(int n) {
     auto& f = *form_E(n).operator->();
     if (!éContagem(f.Combo2)) return;
     const int lado = std::max(inteiroDaLista(f.Combo2) + 1, f.flex_A.linhas);
-    f.flex_A.dimensionar(lado, lado);
-    escreverCabeçalhosDaMalha(f.flex_A, "Co", inteiroDaLista(f.Combo2), lerPrefixo(f.Combo1.texto));
+    montarPlanilha(f, lado);
 }
 
 void escolherEspaçamento(int n) {
@@ -59,6 +65,7 @@ void voltarAosPadrões(int n) {
     marcar(form_E(n), f.Option1);
     marcar(form_E(n), f.Option2);
     esvaziarCélulas(f.flex_A);
+    definirTexto(f.Text5, "");
     Erro_plan(n);
 }
 
@@ -136,9 +143,7 @@ EventosTela eventosDeForm_E(int n) { return n == 1 ? eventos<1>() : n == 2 ? eve
 
 void Erro_plan(int n) {
     auto& f = *form_E(n).operator->();
-    const int N = inteiroDaLista(f.Combo2);
-    f.flex_A.dimensionar(N + 1, N + 1);
-    escreverCabeçalhosDaMalha(f.flex_A, "Co", N, lerPrefixo(f.Combo1.texto));
+    montarPlanilha(f, inteiroDaLista(f.Combo2) + 1);
 }
 
 } // namespace varenta

@@ -28,6 +28,12 @@ void escreverCabeçalhos(RegistroFormMiE& f) {
     escreverPosições(f.flex_A, inteiroDaLista(f.Combo3), lerPrefixo(f.Combo4.texto));
 }
 
+void montarPlanilha(RegistroFormMiE& f, int linhas, int colunas) {
+    dimensionarPlanilha(f, linhas, colunas);
+    escreverCabeçalhos(f);
+    entrarNaCélula(planilhaDoEnsaio(f));
+}
+
 /// A number typed makes the grid larger at once, but never smaller: rows and columns beyond it keep their
 /// readings and lose their headers, until a list is picked from.
 void digitarTamanho(int n) {
@@ -35,8 +41,7 @@ void digitarTamanho(int n) {
     if (!éContagem(f.Combo1) || !éContagem(f.Combo3)) return;
     const int linhas = std::max(2 * inteiroDaLista(f.Combo3) + 1, f.flex_A.linhas);
     const int colunas = std::max(inteiroDaLista(f.Combo1) + 1, f.flex_A.colunas);
-    f.flex_A.dimensionar(linhas, colunas);
-    escreverCabeçalhos(f);
+    montarPlanilha(f, linhas, colunas);
 }
 
 /// One of the lists was picked from: it must show a number, and so must those that size the grid.
@@ -67,6 +72,7 @@ void voltarAosPadrões(int n) {
     marcar(form_MiE(n), f.Option4);
     marcar(form_MiE(n), f.Option2);
     esvaziarCélulas(f.flex_A);
+    definirTexto(f.Text5, "");
     MIErro_plan(n);
 }
 
@@ -152,8 +158,7 @@ EventosTela eventosDeForm_MiE(int n) { return n == 1 ? eventos<1>() : n == 2 ? e
 
 void MIErro_plan(int n) {
     auto& f = *form_MiE(n).operator->();
-    f.flex_A.dimensionar(2 * inteiroDaLista(f.Combo3) + 1, inteiroDaLista(f.Combo1) + 1);
-    escreverCabeçalhos(f);
+    montarPlanilha(f, 2 * inteiroDaLista(f.Combo3) + 1, inteiroDaLista(f.Combo1) + 1);
 }
 
 } // namespace varenta

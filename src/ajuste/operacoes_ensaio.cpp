@@ -31,10 +31,16 @@ void escreverDireçãoDoVento(ControlesDeEnsaio& controles) {
     desenharVento(controles.Picture2, radianos(controles.HScroll1.valor));
 }
 
+void dimensionarPlanilha(ControlesDeEnsaio& controles, int linhas, int colunas) {
+    sairDaCélula(planilhaDoEnsaio(controles));
+    controles.flex_A.dimensionar(linhas, colunas);
+}
+
 void mostrarEntrada(ControlesDeEnsaio& controles, bool mostra) {
     controles.Text5.visivel = mostra;
     controles.Label6.visivel = mostra;
     controles.Label7.visivel = mostra;
+    entrarNaCélula(planilhaDoEnsaio(controles));
 }
 
 void mostrarDiâmetro(ControlesDeEnsaio& controles) {

@@ -26,7 +26,10 @@ Planilha planilhaDoEnsaio(ControlesDeEnsaio& controles);
 void escreverVelocidadeDoVento(ControlesDeEnsaio& controles);
 void escreverDireçãoDoVento(ControlesDeEnsaio& controles);
 
-/// Shows or hides the entry line with its labels.
+/// Gives the grid its size, once what the entry line holds has gone to its cell.
+void dimensionarPlanilha(ControlesDeEnsaio& controles, int linhas, int colunas);
+
+/// Shows or hides the entry line with its labels. Where it shows it takes the current cell's text.
 void mostrarEntrada(ControlesDeEnsaio& controles, bool mostra);
 
 /// Shows the diameter of the collector for readings in volume only, and empties it.
