@@ -1,5 +1,6 @@
 #include "shell/form3.h"
 
+#include "ajuste/form_ajven.h"
 #include "apoio/atalhos.h"
 #include "apoio/plataforma_teste.h"
 #include "aspersor/form1.h"
@@ -88,6 +89,18 @@ TEST_F(TelaPrincipal, UmItemDeAspersorEscondeAPrincipalEMostraOAspersor) {
         EXPECT_FALSE(form3.visivel);
         EXPECT_FALSE(form3.habilitada);
         EXPECT_EQ(recusaDe([&] { atos::clicar(alvo(form3, nome)); }), "Form3 está oculta");
+    }
+}
+
+TEST_F(TelaPrincipal, UmItemDeAjusteEscondeAPrincipalEMostraOAjuste) {
+    for (const char* nome : {"TX15c", "TX20c", "TX30c", "TX15d", "TX20d", "TX30d"}) {
+        recomeçar();
+        atos::clicar(alvo(form3, nome));
+        EXPECT_TRUE(form_AjVen.visivel) << nome;
+        EXPECT_FALSE(form3.visivel);
+        atos::clicar(alvo(form_AjVen, "Command1"));
+        EXPECT_FALSE(form_AjVen.carregada());
+        EXPECT_TRUE(form3.visivel);
     }
 }
 
