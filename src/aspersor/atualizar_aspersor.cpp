@@ -45,6 +45,16 @@ const ModeloDeAspersor* modeloDaCaption(std::string_view caption) {
     return nullptr;
 }
 
+std::string bocaisDasListas(const ModeloDeAspersor& modelo, const Lista& Combo1, const Lista& Combo2) {
+    auto bocais = paraTexto(lerPrefixo(Combo1.texto));
+    if (modelo.temAuxiliar) bocais += " x " + paraTexto(lerPrefixo(Combo2.texto));
+    return bocais;
+}
+
+std::string rótuloDosBocais(const ModeloDeAspersor& modelo, const Lista& Combo1, const Lista& Combo2) {
+    return (modelo.temAuxiliar ? "Bocais: " : "Bocal: ") + bocaisDasListas(modelo, Combo1, Combo2) + " mm";
+}
+
 void prepararSeleção(const SeleçãoDeAspersor& seleção, const ModeloDeAspersor& modelo) {
     seleção.Combo1.itens.clear();
     for (int bocal = modelo.primeiroBocal; bocal <= modelo.últimoBocal; bocal += 2)

@@ -27,6 +27,11 @@ extern const ModeloDeAspersor modeloTX15, modeloTX20, modeloTX30;
 /// The model whose caption that is; null for any other caption.
 const ModeloDeAspersor* modeloDaCaption(std::string_view caption);
 
+/// The nozzles that both lists show, as bare numbers: "18 x 6", or "38" for a model of one jet.
+std::string bocaisDasListas(const ModeloDeAspersor& modelo, const Lista& Combo1, const Lista& Combo2);
+/// The same as a caption: "Bocais: 18 x 6 mm", "Bocal: 38 mm".
+std::string rótuloDosBocais(const ModeloDeAspersor& modelo, const Lista& Combo1, const Lista& Combo2);
+
 /// The controls of the screen that holds the selection.
 struct SeleçãoDeAspersor {
     std::string& Caption;

@@ -2,6 +2,9 @@
 
 #include "aspersor/perfil_radial.h"
 #include "comum/grafico.h"
+#include "comum/tela.h"
+
+#include <span>
 
 namespace varenta {
 

@@ -17,6 +17,8 @@ void perfilForm_Text5_Change();
 bool perfilForm_Text6_KeyPress(int tecla);
 void perfilForm_Command1_Click();
 void perfilForm_Command4_Click();
+void perfilForm_Command6_Click(); // stands in ajuste/, whose screen it opens
+void perfilForm_Command7_Click(); // stands in ajuste/
 void perfilForm_Command8_Click();
 Planilha perfilForm_planilha();
 
@@ -61,8 +63,8 @@ struct RegistroPerfilForm {
     Botao Command3{.texto = "&Fechar", .aoClicar = perfilForm_Fechar};
     Botao Command4{.texto = "&Salvar", .aoClicar = perfilForm_Command4_Click};
     Botao Command5{.texto = "Ajuda", .aoClicar = mostrarAjuda<topicos::perfilForm>};
-    Botao Command6{.texto = "&Avançar >>"};
-    Botao Command7{.texto = "&Avançar >>"};
+    Botao Command6{.texto = "&Avançar >>", .aoClicar = perfilForm_Command6_Click};
+    Botao Command7{.texto = "&Avançar >>", .aoClicar = perfilForm_Command7_Click};
     Botao Command8{.texto = "&Avançar >>", .aoClicar = perfilForm_Command8_Click};
 
     template <class Visita>

@@ -107,8 +107,9 @@ struct Rolagem {
     bool habilitado = true;
 };
 
+/// How far a long run has come.
 struct Barra {
-    int valor = 0;
+    double valor = 0;
     int mínimo = 0;
     int máximo = 100;
     bool visivel = true;

@@ -32,6 +32,8 @@ std::optional<std::string> arquivoParaAbrir(const DialogoArquivo& diálogo);
 std::optional<std::string> arquivoParaSalvar(const DialogoArquivo& diálogo);
 /// Shows a topic of the help, without one its index. Raises a run-time error with the reason where it can't.
 void ajuda(std::optional<int> tópico);
+/// A long run has come further: the value of its bar and the text of its label, of which one has changed.
+void progresso(double valor, std::string_view texto);
 /// The program is to end: the main window was closed.
 void encerrar();
 

@@ -148,6 +148,11 @@ void ajuda(std::optional<int> tópico) {
     dialogos().ajuda(tópico);
 }
 
+void progresso(double valor, std::string_view texto) {
+    if (auto* roteiro = Interprete::ativo()) roteiro->progresso(valor, texto);
+    preparar();
+}
+
 void encerrar() {
     if (auto* roteiro = Interprete::ativo()) return roteiro->encerrar();
     // Not quit(), which would ask every window to close once more.

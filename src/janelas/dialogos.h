@@ -29,7 +29,7 @@ Dialogos& dialogos();
 /// Qt's message boxes and file dialogs, over the active window.
 Dialogos dialogosDoQt();
 
-/// Called before a box appears, so that the windows behind it show how things stand.
+/// Called before a box appears and while a long run comes further, so that the windows show how things stand.
 inline std::function<void()> antesDeCadaDialogo;
 
 /// "Text files|*.TXT|All files|*.*" as Qt's "Text files (*.TXT *.txt);;All files (*)". Masks that a name

@@ -1,5 +1,7 @@
 #include "janelas/modelos.h"
 
+#include <algorithm>
+
 namespace {
 
 QString qtexto(const std::string& texto) { return QString::fromStdString(texto); }
@@ -23,6 +25,10 @@ void ModeloGrade::esquecer() {
 
 QString ModeloGrade::títuloDoCanto() const { return grade_ ? qtexto(grade_->célula(0, 0)) : QString{}; }
 
+QString ModeloGrade::textoMaisLongo() const {
+    return grade_ ? qtexto(*std::ranges::max_element(grade_->células, {}, std::ranges::size)) : QString{};
+}
+
 int ModeloGrade::rowCount(const QModelIndex& pai) const {
     return grade_ && !pai.isValid() ? grade_->linhas - 1 : 0;
 }
@@ -32,6 +38,7 @@ int ModeloGrade::columnCount(const QModelIndex& pai) const {
 }
 
 Qt::Alignment ModeloGrade::alinhamento(int coluna) const {
+    if (aDireita_) return Qt::AlignRight | Qt::AlignVCenter;
     switch (grade_->alinhamentos[static_cast<std::size_t>(coluna)]) {
     case varenta::Alinhamento::esquerda:
         return Qt::AlignLeft | Qt::AlignVCenter;

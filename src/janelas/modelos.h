@@ -17,8 +17,12 @@ class ModeloGrade : public QAbstractTableModel {
     /// The grid must stay alive until the next call or `esquecer`.
     void mostrar(const varenta::Grade& grade);
     void esquecer();
+    /// Whatever alignments the grid has for its columns.
+    void alinharADireita(bool aDireita) { aDireita_ = aDireita; }
     /// The header of the first column, which has no section of its own.
     QString títuloDoCanto() const;
+    /// The cell with the most characters.
+    QString textoMaisLongo() const;
 
     int rowCount(const QModelIndex& pai = {}) const override;
     int columnCount(const QModelIndex& pai = {}) const override;
@@ -28,6 +32,7 @@ class ModeloGrade : public QAbstractTableModel {
   private:
     Qt::Alignment alinhamento(int coluna) const;
 
+    bool aDireita_ = false;
     const varenta::Grade* grade_ = nullptr;
     std::optional<std::uint64_t> versão_;
 };

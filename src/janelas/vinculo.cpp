@@ -266,8 +266,10 @@ struct Vinculo::Mostrar {
     }
 
     void operator()(QProgressBar& barra, const Barra& r) const {
-        barra.setRange(r.mínimo, r.máximo);
-        barra.setValue(r.valor);
+        // The widget counts whole numbers; the smallest step of a run is a quarter.
+        constexpr int quartos = 4;
+        barra.setRange(quartos * r.mínimo, quartos * r.máximo);
+        barra.setValue(static_cast<int>(quartos * r.valor));
         mostrarEstado(barra, r.visivel, r.habilitado);
     }
 

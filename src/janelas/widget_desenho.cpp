@@ -33,6 +33,7 @@ struct Curva {
     QString nome;
     QColor cor;
     Qt::PenStyle estilo;
+    bool pontos;
 };
 
 Curva lerCurva(const QString& texto) {
@@ -41,7 +42,8 @@ Curva lerCurva(const QString& texto) {
             QColor{texto.section(QLatin1Char{'='}, 1).section(QLatin1Char{':'}, 0, 0)},
             estilo == QLatin1String{"tracejado"}    ? Qt::DashLine
             : estilo == QLatin1String{"pontilhado"} ? Qt::DotLine
-                                                    : Qt::SolidLine};
+                                                    : Qt::SolidLine,
+            estilo == QLatin1String{"pontos"}};
 }
 
 std::vector<Curva> lerCurvas(const QStringList& legenda) {
@@ -151,6 +153,20 @@ class PintorDeTraços {
     std::optional<QPointF> fimDoTracejado_;
 };
 
+/// What the legend shows of a curve, from `início` to the right.
+void pintarAmostra(QPainter& pintor, const Curva& curva, QPointF início) {
+    constexpr double raio = 3;
+    if (curva.pontos) {
+        pintor.setPen(Qt::NoPen);
+        pintor.setBrush(curva.cor);
+        pintor.drawEllipse(início + QPointF{amostraDaLegenda / 2.0, 0}, raio, raio);
+        pintor.setBrush(Qt::NoBrush);
+    } else {
+        pintor.setPen(QPen{curva.cor, 2, curva.estilo, Qt::FlatCap});
+        pintor.drawLine(início, início + QPointF{amostraDaLegenda, 0});
+    }
+}
+
 int maisLargo(const QFontMetrics& medidas, const QStringList& textos, const QString& usual) {
     int maior = medidas.horizontalAdvance(usual);
     for (const auto& texto : textos) maior = std::max(maior, medidas.horizontalAdvance(texto));
@@ -173,9 +189,10 @@ void WidgetDesenho::mostrar(const varenta::Desenho& desenho) {
 }
 
 void WidgetDesenho::escreverEscalas(const QStringList& x, const QStringList& y) {
+    const auto& horizontal = rotulosXFixos_.isEmpty() ? x : rotulosXFixos_;
     const auto& vertical = rotulosYFixos_.isEmpty() ? y : rotulosYFixos_;
-    if (x == escalaX_ && vertical == escalaY_) return;
-    escalaX_ = x;
+    if (horizontal == escalaX_ && vertical == escalaY_) return;
+    escalaX_ = horizontal;
     escalaY_ = vertical;
     imagem_ = {};
     updateGeometry();
@@ -200,7 +217,12 @@ int WidgetDesenho::larguraDaLegenda() const {
 }
 
 QRect WidgetDesenho::quadroDosEixos() const {
-    const QRect quadro = rect().marginsRemoved(margensDoGráfico());
+    QRect quadro = rect().marginsRemoved(margensDoGráfico());
+    if (proporcional_) {
+        const QPoint meio = quadro.center();
+        quadro.setSize(eixos_.size().scaled(quadro.size(), Qt::KeepAspectRatio).toSize());
+        quadro.moveCenter(meio);
+    }
     return {quadro.topLeft(), quadro.size().expandedTo({1, 1})};
 }
 
@@ -221,9 +243,11 @@ QTransform WidgetDesenho::transformação() const {
 }
 
 QSize WidgetDesenho::sizeHint() const {
-    const double altura = linhasDeAltura_ * fontMetrics().height();
-    const auto p = proporções();
-    return QSizeF{altura * p.width() / p.height(), altura}.toSize().expandedTo(minimumSizeHint());
+    const auto margens = proporcional_ ? margensDoGráfico() : QMargins{};
+    const auto p = éGráfico() ? eixos_.size() : area_.size();
+    const double altura = linhasDeAltura_ * fontMetrics().height() - margens.top() - margens.bottom();
+    return QSizeF{altura * p.width() / p.height(), altura}.toSize().grownBy(margens).expandedTo(
+        minimumSizeHint());
 }
 
 QSize WidgetDesenho::minimumSizeHint() const {
@@ -336,7 +360,8 @@ void WidgetDesenho::pintarEscalas(QPainter& pintor) const {
                static_cast<int>(std::lround(static_cast<double>(comprimento) * static_cast<double>(k) /
                                             static_cast<double>(std::max<qsizetype>(quantos - 1, 1))));
     };
-    const int base = quadro.y() + quadro.height(), direita = quadro.x() + quadro.width();
+    const QRect tudo = quadro.marginsAdded(margensDoGráfico());
+    const int base = quadro.y() + quadro.height();
     for (qsizetype k = 0; k < escalaX_.size(); ++k) {
         const int x = lugar(quadro.x(), quadro.width(), k, escalaX_.size());
         const int largura = medidas.horizontalAdvance(escalaX_[k]);
@@ -351,10 +376,10 @@ void WidgetDesenho::pintarEscalas(QPainter& pintor) const {
                         Qt::AlignRight | Qt::AlignVCenter, escalaY_[k]);
     }
     pintor.setRenderHint(QPainter::Antialiasing);
-    pintor.drawText(QRect{quadro.x(), height() - altura - folga / 2, direita - quadro.x(), altura},
+    pintor.drawText(QRect{quadro.x(), tudo.y() + tudo.height() - altura - folga / 2, quadro.width(), altura},
                     Qt::AlignCenter, tituloX_);
     pintor.save();
-    pintor.translate(altura / 2 + folga / 2, quadro.center().y());
+    pintor.translate(tudo.x() + altura / 2 + folga / 2, quadro.center().y());
     pintor.rotate(-90);
     pintor.drawText(QRect{-height() / 2, -altura / 2, height(), altura}, Qt::AlignCenter, tituloY_);
     pintor.restore();
@@ -364,11 +389,9 @@ void WidgetDesenho::pintarLegenda(QPainter& pintor) const {
     const QRect quadro = quadroDosEixos();
     const auto medidas = pintor.fontMetrics();
     int x = quadro.x() + (quadro.width() - larguraDaLegenda()) / 2;
-    const int y = folga / 2;
+    const int y = quadro.y() - margensDoGráfico().top() + folga / 2;
     for (const auto& curva : lerCurvas(legenda_)) {
-        pintor.setPen(QPen{curva.cor, 2, curva.estilo, Qt::FlatCap});
-        const double meio = y + std::floor(medidas.height() / 2.0);
-        pintor.drawLine(QPointF(x, meio), QPointF(x + amostraDaLegenda, meio));
+        pintarAmostra(pintor, curva, {static_cast<double>(x), y + std::floor(medidas.height() / 2.0)});
         x += amostraDaLegenda + folga;
         const int largura = medidas.horizontalAdvance(curva.nome);
         pintor.setPen(corDasEscalas);

@@ -17,24 +17,28 @@
 /// the drawing or the size changes.
 ///
 /// With `eixos` it is a chart: the rectangle of the axes, in canvas units, takes all the room that the tick
-/// captions and the axis titles leave, and everything that was drawn is stretched along with it. Without, it
-/// is a picture: `area`, in canvas units, is fitted into the room with its proportions kept, over the
-/// resource `figura`. A child with the property `ancora` (a point in canvas units) stays at that point: its
-/// middle, or its left or right end as its alignment asks.
+/// captions and the axis titles leave, and everything that was drawn is stretched along with it; with
+/// `proporcional` too, as a map has it, the rectangle keeps its proportions in the middle of that room.
+/// Without `eixos`, it is a picture: `area`, in canvas units, is fitted into the room with its proportions
+/// kept, over the resource `figura`. A child with the property `ancora` (a point in canvas units) stays at
+/// that point: its middle, or its left or right end as its alignment asks.
 class WidgetDesenho : public QWidget {
     Q_OBJECT
     Q_PROPERTY(QRectF area MEMBER area_)
     Q_PROPERTY(QRectF eixos MEMBER eixos_)
+    Q_PROPERTY(bool proporcional MEMBER proporcional_)
     Q_PROPERTY(QString figura MEMBER figura_)
     /// Names of the control arrays that hold the tick captions, equally spaced from one end to the other.
     Q_PROPERTY(QString rotulosX MEMBER rotulosX_)
     Q_PROPERTY(QString rotulosY MEMBER rotulosY_)
-    /// The tick captions of a vertical axis that no control array holds.
+    /// The tick captions of an axis that no control array holds.
+    Q_PROPERTY(QStringList rotulosXFixos MEMBER rotulosXFixos_)
     Q_PROPERTY(QStringList rotulosYFixos MEMBER rotulosYFixos_)
     Q_PROPERTY(QString tituloX MEMBER tituloX_)
     Q_PROPERTY(QString tituloY MEMBER tituloY_)
     /// The curves that are named above the plot, as `name=#rrggbb`. With `:tracejado` or `:pontilhado` after
-    /// it, lines of that colour are dashed or dotted, in the plot too.
+    /// it, lines of that colour are dashed or dotted, in the plot too; with `:pontos` the sample is a filled
+    /// circle.
     Q_PROPERTY(QStringList legenda MEMBER legenda_)
     /// The height that it would like, in lines of text.
     Q_PROPERTY(int linhasDeAltura MEMBER linhasDeAltura_)
@@ -75,7 +79,6 @@ class WidgetDesenho : public QWidget {
     QMargins margensDoGráfico() const;
     int larguraDaLegenda() const;
     QPointF emUnidades(QPointF ponto) const;
-    QSizeF proporções() const { return éGráfico() ? eixos_.size() : area_.size(); }
     void ancorarFilhos();
     void pintarImagem();
     void pintarFundoDoGráfico(QPainter& pintor) const;
@@ -85,7 +88,8 @@ class WidgetDesenho : public QWidget {
 
     QRectF area_, eixos_;
     QString figura_, rotulosX_, rotulosY_, tituloX_, tituloY_;
-    QStringList rotulosYFixos_, legenda_;
+    QStringList rotulosXFixos_, rotulosYFixos_, legenda_;
+    bool proporcional_ = false;
     int linhasDeAltura_ = 20;
 
     std::vector<varenta::Traço> traços_;

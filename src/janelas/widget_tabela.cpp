@@ -8,9 +8,9 @@
 
 namespace {
 
-// Up to so many columns share the width there is; more of them are as wide as their texts, and scroll.
+// Up to so many columns share the width there is; more of them scroll.
 constexpr int colunasQueRepartem = 6;
-constexpr int folgaDoCanto = 4;
+constexpr int folgaDoTexto = 4;
 
 } // namespace
 
@@ -36,10 +36,11 @@ WidgetTabela::WidgetTabela(QWidget* pai) : QTableView{pai}, canto_{new QLabel} {
 }
 
 void WidgetTabela::mostrar(const varenta::Grade& grade) {
+    modeloGrade_.alinharADireita(aDireita_);
     usar(modeloGrade_);
     modeloGrade_.mostrar(grade);
     canto_->setText(modeloGrade_.títuloDoCanto());
-    verticalHeader()->setMinimumWidth(canto_->sizeHint().width() + 2 * folgaDoCanto);
+    verticalHeader()->setMinimumWidth(canto_->sizeHint().width() + 2 * folgaDoTexto);
     ajustarColunas();
 }
 
@@ -59,9 +60,21 @@ void WidgetTabela::usar(QAbstractItemModel& modelo) {
 }
 
 void WidgetTabela::ajustarColunas() {
-    const auto modo =
-        model()->columnCount() <= colunasQueRepartem ? QHeaderView::Stretch : QHeaderView::ResizeToContents;
-    if (horizontalHeader()->sectionResizeMode(0) != modo) horizontalHeader()->setSectionResizeMode(modo);
+    auto& cabeçalho = *horizontalHeader();
+    const bool repartem = model()->columnCount() <= colunasQueRepartem;
+    // Not by their contents, for which Qt would measure every cell.
+    const auto modo = repartem ? QHeaderView::Stretch : QHeaderView::Interactive;
+    if (cabeçalho.sectionResizeMode(0) != modo) cabeçalho.setSectionResizeMode(modo);
+    if (repartem) return;
+    if (const int largura = larguraDasColunas(); cabeçalho.defaultSectionSize() != largura)
+        cabeçalho.setDefaultSectionSize(largura);
+}
+
+int WidgetTabela::larguraDasColunas() const {
+    int maior = fontMetrics().horizontalAdvance(modeloGrade_.textoMaisLongo()) + 2 * folgaDoTexto;
+    for (int c = 0; c < model()->columnCount(); ++c)
+        maior = qMax(maior, horizontalHeader()->sectionSizeHint(c));
+    return maior;
 }
 
 int WidgetTabela::alturaPara(int linhas) const {
@@ -71,7 +84,9 @@ int WidgetTabela::alturaPara(int linhas) const {
 int WidgetTabela::larguraDoConteúdo() const {
     const int lateral = qMax(verticalHeader()->sizeHint().width(), verticalHeader()->minimumWidth());
     const int largura = lateral + verticalScrollBar()->sizeHint().width() + 2 * frameWidth();
-    const int colunas = model() ? qMin(model()->columnCount(), colunasQueRepartem) : 0;
+    const int colunas = model() ? model()->columnCount() : 0;
+    if (colunas > colunasQueRepartem)
+        return largura + qMin(colunas, colunasVisiveis_) * horizontalHeader()->defaultSectionSize();
     int maisLarga = 0;
     for (int c = 0; c < colunas; ++c) maisLarga = qMax(maisLarga, horizontalHeader()->sectionSizeHint(c));
     return largura + colunas * maisLarga;

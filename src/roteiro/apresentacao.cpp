@@ -1,5 +1,6 @@
 #include "roteiro/apresentacao.h"
 
+#include "comum/numeros.h"
 #include "roteiro/erros.h"
 
 #include <algorithm>
@@ -129,7 +130,7 @@ std::string apresentarResumo(const Alvo& alvo) {
             else if constexpr (std::is_same_v<Tipo, Grade>)
                 return apresentarGrade(nome, *controle);
             else if constexpr (std::is_same_v<Tipo, Rolagem> || std::is_same_v<Tipo, Barra>)
-                return apresentarTexto(nome, std::to_string(controle->valor));
+                return apresentarTexto(nome, paraTexto(controle->valor));
             else
                 return apresentarTexto(nome, controle->texto);
         },

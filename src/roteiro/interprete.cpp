@@ -1,6 +1,7 @@
 #include "roteiro/interprete.h"
 
 #include "comum/arquivo_texto.h"
+#include "comum/numeros.h"
 #include "roteiro/apresentacao.h"
 #include "roteiro/palavras.h"
 #include "shell/sistema.h"
@@ -303,6 +304,10 @@ void Interprete::erroDeExecucao(std::string_view texto) { imprimir("erro: " + es
 
 void Interprete::ajuda(std::optional<int> tópico) {
     imprimir("ajuda: " + (tópico ? std::to_string(*tópico) : std::string{"índice"}) + '\n');
+}
+
+void Interprete::progresso(double valor, std::string_view texto) {
+    if (mostrarProgresso) imprimir("progresso: " + paraTexto(valor) + ' ' + escapar(texto) + '\n');
 }
 
 std::optional<std::string> Interprete::arquivoParaAbrir() {

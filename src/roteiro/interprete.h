@@ -46,6 +46,8 @@ class Interprete {
     /// The interpreter that runs a roteiro; null where none does.
     static Interprete* ativo() { return ativo_; }
 
+    /// Whether the steps of long runs are printed.
+    bool mostrarProgresso = false;
     /// Called after each command that was carried out. It may end the run with an `ErroDeRoteiro` or a
     /// `FalhaDeSaída`.
     std::function<void()> depoisDeCadaComando;
@@ -59,6 +61,7 @@ class Interprete {
     void avisar(std::string_view texto);
     void erroDeExecucao(std::string_view texto);
     void ajuda(std::optional<int> tópico);
+    void progresso(double valor, std::string_view texto);
     std::optional<std::string> arquivoParaAbrir();
     std::optional<std::string> arquivoParaSalvar(const plataforma::DialogoArquivo& diálogo);
     /// The main window was closed: every command from here on is refused.

@@ -16,10 +16,11 @@ bool éOpção(const std::string& argumento) { return argumento.starts_with('-')
 
 int executarLinhaDeComando(const std::vector<std::string>& argumentos, std::istream& entrada,
                            std::ostream& saída, std::ostream& erros) {
+    constexpr std::string_view opçãoDeProgresso = "--progresso";
     std::vector<std::string> arquivos;
     std::ranges::remove_copy_if(argumentos, std::back_inserter(arquivos), éOpção);
     const bool opçõesConhecidas = std::ranges::all_of(
-        argumentos, [](const std::string& a) { return !éOpção(a) || a == "--progresso"; });
+        argumentos, [](const std::string& a) { return !éOpção(a) || a == opçãoDeProgresso; });
     if (arquivos.empty() || !opçõesConhecidas) {
         erros << "uso: varenta-roteiro [--progresso] ARQUIVO…\n"
                  "Executa cada roteiro contra o sistema recém-iniciado; - é a entrada padrão.\n";
@@ -27,6 +28,7 @@ int executarLinhaDeComando(const std::vector<std::string>& argumentos, std::istr
     }
 
     Interprete interprete{saída, erros};
+    interprete.mostrarProgresso = std::ranges::count(argumentos, opçãoDeProgresso) > 0;
     int pior = Interprete::concluído;
     for (const auto& arquivo : arquivos)
         pior = std::max<int>(pior, arquivo == "-" ? interprete.executarFluxo(entrada)

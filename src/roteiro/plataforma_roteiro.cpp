@@ -33,6 +33,7 @@ std::optional<std::string> arquivoParaSalvar(const DialogoArquivo& diálogo) {
 }
 
 void ajuda(std::optional<int> tópico) { ativo().ajuda(tópico); }
+void progresso(double valor, std::string_view texto) { ativo().progresso(valor, texto); }
 
 void encerrar() { ativo().encerrar(); }
 

@@ -1,5 +1,6 @@
 #include "shell/form3.h"
 
+#include "ajuste/form_ajven.h"
 #include "aspersor/atualizar_aspersor.h"
 #include "aspersor/form1.h"
 #include "aspersor/perfil_form.h"
@@ -44,6 +45,13 @@ void abrirFormEC(bool paraPerfilRadial) {
     form3.esconder();
 }
 
+/// Opens the fit of the wind parameters for a catalogue sprinkler.
+void abrirAjuste(const ModeloDeAspersor& modelo, Método método) {
+    fecharTelas();
+    form3.esconder();
+    abrirFormAjVen(modelo, método);
+}
+
 } // namespace
 
 void form3_Load() { associarAjuda(); }
@@ -67,5 +75,12 @@ void form3_varenta_Click() {
     form6.mostrar();
     form3.esconder();
 }
+
+void form3_TX15c_Click() { abrirAjuste(modeloTX15, Método::malha); }
+void form3_TX20c_Click() { abrirAjuste(modeloTX20, Método::malha); }
+void form3_TX30c_Click() { abrirAjuste(modeloTX30, Método::malha); }
+void form3_TX15d_Click() { abrirAjuste(modeloTX15, Método::autopropelido); }
+void form3_TX20d_Click() { abrirAjuste(modeloTX20, Método::autopropelido); }
+void form3_TX30d_Click() { abrirAjuste(modeloTX30, Método::autopropelido); }
 
 } // namespace varenta

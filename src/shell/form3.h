@@ -16,6 +16,12 @@ void form3_Ou_aspC_Click();
 void form3_OuAsp_Auto_Click();
 void form3_PerfRad_Click();
 void form3_EnsCampo_Click();
+void form3_TX15c_Click();
+void form3_TX20c_Click();
+void form3_TX30c_Click();
+void form3_TX15d_Click();
+void form3_TX20d_Click();
+void form3_TX30d_Click();
 
 /// The main window: a picture and the menu from which every use of the system starts.
 struct RegistroForm3 {
@@ -33,15 +39,15 @@ struct RegistroForm3 {
     ItemMenu Ajuste{.texto = "Ajustar Parâmetros - Vento", .nível = 0, .abreSubmenu = true};
     ItemMenu Met_malha{.texto = "Método: Malha", .nível = 1, .abreSubmenu = true};
     ItemMenu Asp_Kc{.texto = "Aspersores KELMO", .nível = 2, .abreSubmenu = true};
-    ItemMenu TX15c{.texto = "TX15", .nível = 3};
-    ItemMenu TX20c{.texto = "TX20", .nível = 3};
-    ItemMenu TX30c{.texto = "TX30", .nível = 3};
+    ItemMenu TX15c{.texto = "TX15", .nível = 3, .aoClicar = form3_TX15c_Click};
+    ItemMenu TX20c{.texto = "TX20", .nível = 3, .aoClicar = form3_TX20c_Click};
+    ItemMenu TX30c{.texto = "TX30", .nível = 3, .aoClicar = form3_TX30c_Click};
     ItemMenu Ou_aspC{.texto = "Outro Aspersor", .nível = 2, .aoClicar = form3_Ou_aspC_Click};
     ItemMenu Met_auto{.texto = "Método: Autopropelido", .nível = 1, .abreSubmenu = true};
     ItemMenu Asp_kelmoD{.texto = "Aspersores KELMO", .nível = 2, .abreSubmenu = true};
-    ItemMenu TX15d{.texto = "TX15", .nível = 3};
-    ItemMenu TX20d{.texto = "TX20", .nível = 3};
-    ItemMenu TX30d{.texto = "TX30", .nível = 3};
+    ItemMenu TX15d{.texto = "TX15", .nível = 3, .aoClicar = form3_TX15d_Click};
+    ItemMenu TX20d{.texto = "TX20", .nível = 3, .aoClicar = form3_TX20d_Click};
+    ItemMenu TX30d{.texto = "TX30", .nível = 3, .aoClicar = form3_TX30d_Click};
     ItemMenu OuAsp_Auto{.texto = "Outro Aspersor", .nível = 2, .aoClicar = form3_OuAsp_Auto_Click};
     ItemMenu ajuda{.texto = "&Ajuda", .nível = 0, .abreSubmenu = true};
     ItemMenu varenta{.texto = "Sobre o Varenta", .nível = 1, .aoClicar = form3_varenta_Click};

@@ -18,13 +18,6 @@ double emUmaVolta(double angulo) {
     return angulo;
 }
 
-void desenharVento(Desenho& desenho, double direção) {
-    constexpr PontoDoDesenho centro{1455, 1125};
-    const auto ponta = noRumo(centro, 450, direção);
-    desenho.linha(centro.x, centro.y, ponta.x, ponta.y, cores::azul);
-    desenharSeta(desenho, ponta, 400, direção);
-}
-
 /// The same circle at the place of every collector, and at the sample beside its caption.
 void desenharColetores(Desenho& desenho, double raio, Cor cor) {
     for (const double y : std::array{4090.0, 4590.0, 5090.0})
@@ -33,6 +26,13 @@ void desenharColetores(Desenho& desenho, double raio, Cor cor) {
 }
 
 } // namespace
+
+void desenharVento(Desenho& desenho, double direção) {
+    constexpr PontoDoDesenho centro{1455, 1125};
+    const auto ponta = noRumo(centro, 450, direção);
+    desenho.linha(centro.x, centro.y, ponta.x, ponta.y, cores::azul);
+    desenharSeta(desenho, ponta, 400, direção);
+}
 
 PontoDoDesenho noRumo(PontoDoDesenho centro, double distância, double rumo) {
     return {centro.x + distância * std::sin(rumo), centro.y - distância * std::cos(rumo)};
@@ -49,13 +49,13 @@ void desenharSeta(Desenho& desenho, PontoDoDesenho ponta, double haste, double r
     para(barbela, rumo + radianos(30));
 }
 
-Setor setorMolhado(int anguloSecoI, int anguloSecoII, int rotacao) {
+ExtremosDoSetor setorMolhado(int anguloSecoI, int anguloSecoII, int rotacao) {
     const double a1 = radianos(anguloSecoI), a2 = radianos(anguloSecoII), rot = radianos(rotacao);
     return {emUmaVolta(quartoDeVolta + a1 + rot),
             emUmaVolta((anguloSecoII >= 90 ? voltaEUmQuarto : quartoDeVolta) - a2 + rot)};
 }
 
-void desenharSetor(Desenho& desenho, PontoDoDesenho centro, double raio, const Setor& setor) {
+void desenharSetor(Desenho& desenho, PontoDoDesenho centro, double raio, const ExtremosDoSetor& setor) {
     // The canvas asks for the radial lines by negative angles.
     desenho.arco(centro.x, centro.y, raio, cores::azulClaro, -setor.início, -setor.fim);
 }

@@ -13,15 +13,18 @@ void desenharSeta(Desenho& desenho, PontoDoDesenho ponta, double haste, double r
 
 /// The ends of the wetted sector on a plan whose upward direction is the sprinkler's ahead: radians
 /// anticlockwise from the right, within one turn, running from `início` to `fim`.
-struct Setor {
+struct ExtremosDoSetor {
     double início, fim;
 };
 
 /// The wetted sector of the dry angles and the rotation, in whole degrees.
-Setor setorMolhado(int anguloSecoI, int anguloSecoII, int rotacao);
+ExtremosDoSetor setorMolhado(int anguloSecoI, int anguloSecoII, int rotacao);
 
 /// A sector with its radial lines.
-void desenharSetor(Desenho& desenho, PontoDoDesenho centro, double raio, const Setor& setor);
+void desenharSetor(Desenho& desenho, PontoDoDesenho centro, double raio, const ExtremosDoSetor& setor);
+/// Draws the wind in twips, with the pen's present width: an arrow that blows from the bearing `direção`
+/// (radians) to the centre of the rose at (1455, 1125).
+void desenharVento(Desenho& desenho, double direção);
 
 /// Draws the sprinkler's diagram in twips: the wind at its rose, the wetted sector at two places of the
 /// travel lane, three rows of collectors. All angles in whole degrees: the wind's bearing, the dry angles,

@@ -1,6 +1,5 @@
 #include "aspersor/atualizar_aspersor.h"
 #include "aspersor/form1.h"
-#include "comum/numeros.h"
 #include "comum/operacoes.h"
 #include "simulacao/form7.h"
 #include "simulacao/perfil_transversal.h"
@@ -9,17 +8,12 @@
 namespace varenta {
 namespace {
 
-/// The number that a list of nozzles shows, as in "18 mm".
-std::string bocal(const Lista& lista) { return paraTexto(lerPrefixo(lista.texto)); }
-
 void escreverAspersor(const ModeloDeAspersor& modelo) {
     const auto nome = std::string{modelo.nome};
     form7->Caption = "Perfil Transversal de Aplicação de Água com Vento - Aspersor KELMO-" +
                      std::string{modelo.nomeEspaçado};
     form7->Label20.texto = "ASPERSOR: KELMO-" + nome;
-    form7->Label19.texto = modelo.temAuxiliar
-                               ? "Bocais: " + bocal(form1->Combo1) + " x " + bocal(form1->Combo2) + " mm"
-                               : "Bocal: " + bocal(form1->Combo1) + " mm";
+    form7->Label19.texto = rótuloDosBocais(modelo, form1->Combo1, form1->Combo2);
 }
 
 } // namespace

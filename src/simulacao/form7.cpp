@@ -122,18 +122,8 @@ void form7_cmdSair_Click() {
 }
 
 void form7_Picture2_MouseMove(double x, double y) {
-    constexpr auto& malha = malhaDoPerfilTransversal;
-    double d = 0, i = 0;
-    if (malha.contém(x, y)) {
-        form7.ponteiro = Ponteiro::cruz;
-        // The axis of the distance has its 0 in the middle.
-        d = (lerPrefixo(form7->Label3.back().texto) * (x - 208)) / 140;
-        i = (lerPrefixo(form7->Label4.back().texto) * (malha.base - y)) / malha.altura();
-    } else {
-        form7.ponteiro = Ponteiro::padrão;
-    }
-    form7->Label14d.texto = "d = " + Format(d, "0.000") + " m";
-    form7->Label14I.texto = "I = " + Format(i, "0.000") + " mm";
+    auto& f = *form7.operator->();
+    lerNoPerfil(form7, f.Label3, f.Label4, f.Label14d, f.Label14I, x, y);
 }
 
 } // namespace varenta

@@ -8,7 +8,7 @@
 #include "simulacao/fonte_aspersor.h"
 #include "simulacao/form7.h"
 #include "simulacao/form_grafven.h"
-#include "simulacao/paleta.h"
+#include "simulacao/legenda_mapa.h"
 
 #include <algorithm>
 #include <vector>
@@ -65,13 +65,6 @@ Matriz amostrarAtravés(const CampoDeIntensidades& campo, const Matriz& T, doubl
     return Z;
 }
 
-void desenharMapa(Desenho& desenho, const Matriz& Z, const Paleta& paleta) {
-    Mosaico mosaico{esquerda - h / 2, topo - h / 2, h, h, ladoDoMapa, {}};
-    mosaico.cores.reserve(Z.valores().size());
-    for (const double valor : Z.valores()) mosaico.cores.push_back(paleta.cor(valor));
-    desenho.mosaico(std::move(mosaico));
-}
-
 void desenharGradeEAspersor(Desenho& desenho) {
     constexpr double direita = esquerda + lado, base = topo + lado, passo = 550, braço = 90;
     desenho.larguraTraco(1);
@@ -100,11 +93,11 @@ void desenhar(const FonteDoAspersor& fonte) {
 
     f.Picture1.limpar();
     f.Picture2.limpar();
-    const Paleta paleta{maior};
-    desenharMapa(f.Picture1, Z, paleta);
-    f.Label15[2].texto = Format(paleta.topo(), "0.0") + " mm/h";
-    f.Label15[1].texto = Format(paleta.topo() / 2, "0.0") + " mm/h";
-    desenharLegenda(f.Picture2, paleta);
+    const EscalaDeCores escala{maior};
+    f.Picture1.mosaico(escala.mosaico(Z, esquerda - h / 2, topo - h / 2, h, h));
+    f.Label15[2].texto = Format(escala.topo(), "0.0") + " mm/h";
+    f.Label15[1].texto = Format(escala.topo() / 2, "0.0") + " mm/h";
+    desenharLegenda(f.Picture2, escala);
     escreverEscala(f.Label3, -campo.limite(), 2 * campo.limite() / 6, "0.0");
     escreverEscala(f.Label4, -campo.limite(), 2 * campo.limite() / 6, "0.0");
     desenharGradeEAspersor(f.Picture1);

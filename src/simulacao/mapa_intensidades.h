@@ -1,11 +1,9 @@
 #pragma once
 
+#include "comum/reamostrar.h"
 #include "simulacao/campo_intensidades.h"
 
 namespace varenta {
-
-/// The rows and the columns of the map of the plane.
-inline constexpr std::size_t ladoDoMapa = 200;
 
 /// The field sampled at `ladoDoMapa` x `ladoDoMapa` places by linear interpolation, along the lane first and
 /// then across it. Row 1 is ahead of the sprinkler, column 1 to its left. The places of the samples are found

@@ -50,23 +50,11 @@ void escreverTabela(Grade& flexA, const PerfilTransversal& perfil) {
 }
 
 void desenharGráfico(const PerfilTransversal& perfil, double S) {
-    constexpr auto& malha = malhaDoPerfilTransversal;
     const auto N = perfil.Lam.size();
-    const double metade = static_cast<double>(N) / 2 - 0.5;
-    const double passo = lerPrefixo(Format(perfil.maior / 4, "0.0"));
-    escreverEscala(form7->Label4, 0, passo, "0.0");
-    escreverEscala(form7->Label3, -metade * S, 2 * metade * S / 8, "0.0");
-
     auto& desenho = form7->Picture2;
-    prepararGráfico(desenho, malha);
-    desenho.larguraTraco(2);
-    const double largura = 2 * S * metade, topo = 5 * passo;
-    desenharCurva(desenho, cores::azul, N, [&](std::size_t i) {
-        const double t = perfil.Dist[i] - perfil.Dist[0];
-        const double x = malha.esquerda + dividir(malha.largura() * t, largura);
-        const double y = malha.base - dividir(perfil.Lam[i] * malha.altura(), topo);
-        return PontoDoDesenho{x, y};
-    });
+    const auto eixos = prepararPerfil(desenho, form7->Label3, form7->Label4, N, S, perfil.maior);
+    desenharCurva(desenho, cores::azul, N,
+                  [&](std::size_t i) { return eixos.lugar(perfil.Dist[i], perfil.Lam[i]); });
 }
 
 /// The chart of the intensities can be had from then on, by the road's own button.

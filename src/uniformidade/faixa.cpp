@@ -3,6 +3,7 @@
 #include "comum/controles.h"
 #include "comum/erro_execucao.h"
 #include "comum/numeros.h"
+#include "comum/reamostrar.h"
 #include "simulacao/funcoes.h"
 
 #include <algorithm>
@@ -47,22 +48,6 @@ void sobreporFaixas(Faixa& faixa, const Matriz& campo, int n) {
     }
 }
 
-/// Where the k-th of `amostras` samples falls between `quantos` values: the value before it, and how far on
-/// towards the next one.
-struct Lugar {
-    std::size_t antes;
-    double fração;
-};
-
-Lugar lugarDaAmostra(std::size_t k, std::size_t amostras, std::size_t quantos) {
-    if (quantos < 2) return {0, 0};
-    const double t = static_cast<double>(k * (quantos - 1)) / static_cast<double>(amostras - 1);
-    const auto antes = std::min(static_cast<std::size_t>(t), quantos - 2);
-    return {antes, t - static_cast<double>(antes)};
-}
-
-double entre(double a, double b, double fração) { return a + (b - a) * fração; }
-
 } // namespace
 
 Faixa calcularFaixaIrrigada(const DadosDaFaixa& dados) {
@@ -97,22 +82,7 @@ Estatísticas estatísticasDaBanda(const Faixa& faixa, int b0, int b1) {
 }
 
 Matriz ampliarFaixa(const Matriz& lâminas) {
-    Matriz colunas{lâminas.linhas(), colunasDoMapaDaFaixa};
-    for (std::size_t c = 0; c < colunasDoMapaDaFaixa; ++c) {
-        const auto lugar = lugarDaAmostra(c, colunasDoMapaDaFaixa, lâminas.colunas());
-        const auto depois = std::min(lugar.antes + 1, lâminas.colunas() - 1);
-        for (std::size_t a = 0; a < lâminas.linhas(); ++a)
-            colunas.linha(a)[c] =
-                entre(lâminas.linha(a)[lugar.antes], lâminas.linha(a)[depois], lugar.fração);
-    }
-    Matriz mapa{linhasDoMapaDaFaixa, colunasDoMapaDaFaixa};
-    for (std::size_t l = 0; l < linhasDoMapaDaFaixa; ++l) {
-        const auto lugar = lugarDaAmostra(l, linhasDoMapaDaFaixa, lâminas.linhas());
-        const auto depois = std::min(lugar.antes + 1, lâminas.linhas() - 1);
-        for (std::size_t c = 0; c < colunasDoMapaDaFaixa; ++c)
-            mapa.linha(l)[c] = entre(colunas.linha(lugar.antes)[c], colunas.linha(depois)[c], lugar.fração);
-    }
-    return mapa;
+    return reamostrar(lâminas, 1, linhasDoMapaDaFaixa, colunasDoMapaDaFaixa);
 }
 
 } // namespace varenta

@@ -11,6 +11,7 @@ namespace varenta::teste {
 std::vector<std::string> caderno;
 std::vector<bool> ampulhetas;
 std::string falhaDaAjuda;
+std::vector<PassoDeProgresso> progressos;
 std::deque<bool> respostas;
 std::deque<std::optional<std::string>> arquivos;
 
@@ -19,6 +20,7 @@ void recomeçar() {
     caderno.clear();
     ampulhetas.clear();
     falhaDaAjuda.clear();
+    progressos.clear();
     respostas.clear();
     arquivos.clear();
 }
@@ -72,6 +74,8 @@ void ajuda(std::optional<int> tópico) {
     if (!falhaDaAjuda.empty()) throw ErroExecucao{falhaDaAjuda};
     anotar("ajuda", tópico ? std::to_string(*tópico) : "índice");
 }
+
+void progresso(double valor, std::string_view texto) { progressos.push_back({valor, std::string{texto}}); }
 
 void encerrar() { caderno.push_back("encerrar"); }
 

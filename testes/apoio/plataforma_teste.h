@@ -16,6 +16,13 @@ extern std::vector<std::string> caderno;
 extern std::vector<bool> ampulhetas;
 /// What the help fails with; empty where it opens.
 extern std::string falhaDaAjuda;
+/// The steps of long runs, in order.
+struct PassoDeProgresso {
+    double valor;
+    std::string texto;
+    bool operator==(const PassoDeProgresso&) const = default;
+};
+extern std::vector<PassoDeProgresso> progressos;
 extern std::deque<bool> respostas;
 /// Paths for the next file dialogs; nothing is a cancelled dialog.
 extern std::deque<std::optional<std::string>> arquivos;

@@ -94,5 +94,31 @@ TEST(Desenho, VersãoCresceACadaTraçoEACadaLimpar) {
     EXPECT_TRUE(cresceu());
 }
 
+TEST(Mosaico, PõeAsCaixasLadoALadoLinhaPorLinha) {
+    const Mosaico mosaico{10, 20, 3, 4, 2, {1, 2, 3, 4, 5, 6}};
+    EXPECT_EQ(mosaico.linhas(), 3u);
+    const auto exigir = [&](std::size_t n, double x1, double y1, double x2, double y2, Cor cor) {
+        const auto caixa = mosaico.caixa(n);
+        EXPECT_EQ(caixa.x1, x1) << n;
+        EXPECT_EQ(caixa.y1, y1) << n;
+        EXPECT_EQ(caixa.x2, x2) << n;
+        EXPECT_EQ(caixa.y2, y2) << n;
+        EXPECT_EQ(caixa.cor, cor) << n;
+    };
+    exigir(0, 10, 20, 13, 24, 1);
+    exigir(1, 13, 20, 16, 24, 2);
+    exigir(2, 10, 24, 13, 28, 3);
+    exigir(5, 13, 28, 16, 32, 6);
+}
+
+TEST(Mosaico, ÉUmSóTraçoDoDesenho) {
+    Desenho desenho;
+    const auto antes = desenho.versão;
+    desenho.mosaico({0, 0, 1, 1, 2, {cores::azul, cores::branco}});
+    ASSERT_EQ(desenho.traços.size(), 1u);
+    EXPECT_EQ(std::get<Mosaico>(desenho.traços[0]).caixa(1).cor, cores::branco);
+    EXPECT_GT(desenho.versão, antes);
+}
+
 } // namespace
 } // namespace varenta

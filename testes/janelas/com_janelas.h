@@ -42,7 +42,7 @@ class ComJanelas : public testing::Test {
                     return tirar(arquivos);
                 },
             .arquivoParaSalvar =
-                [this](const QString& filtros, const QString&) {
+                [this](const QString& filtros, int, const QString&) {
                     caixas.push_back(filtros);
                     return tirar(arquivos);
                 },

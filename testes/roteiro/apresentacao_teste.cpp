@@ -103,6 +103,7 @@ TEST_F(Apresentacao, TelaMostraTodosOsControlesNaOrdemComODesenhoResumido) {
                                           "Bancada.pergunta = \n"
                                           "Bancada.abre = \n"
                                           "Bancada.salva = \n"
+                                          "Bancada.demora = \n"
                                           "Bancada.item = &Item\n"
                                           "Bancada.submenu = &Submenu\n"
                                           "Bancada.caixa = abc\n"

@@ -43,6 +43,7 @@ struct RegistroBancada {
     Botao salva{.aoClicar = [] {
         mostrarCaminho(plataforma::arquivoParaSalvar({.filtro = "Texto|*.TXT", .extensãoPadrão = "TXT"}));
     }};
+    Botao demora{.aoClicar = [] { plataforma::progresso(0.25, "um passo\tlongo"); }};
     ItemMenu item{.texto = "&Item", .aoClicar = [] { anotar("item"); }};
     ItemMenu submenu{.texto = "&Submenu", .abreSubmenu = true};
     CaixaTexto caixa{.texto = "abc", .aoMudar = [] { anotar("caixa"); }};
@@ -83,6 +84,7 @@ struct RegistroBancada {
         visita("pergunta", pergunta);
         visita("abre", abre);
         visita("salva", salva);
+        visita("demora", demora);
         visita("item", item);
         visita("submenu", submenu);
         visita("caixa", caixa);

@@ -22,8 +22,9 @@
 /// `comparar_roteiros PROGRAMA RAIZ PASTA…`: a test for each *.roteiro below the folders, which are given
 /// relative to the root. PROGRAMA runs it, and what it prints is held against the files beside it: *.esperado
 /// (standard output), *.erros (standard error, the roteiro's path as its name alone; empty where the file is
-/// missing) and *.status (exit status; 0 where the file is missing). The roteiros run in a copy of the
-/// folders, so that what they save leaves the originals alone.
+/// missing) and *.status (exit status; 0 where the file is missing). *.opcoes holds an option that the
+/// program is given before the roteiro. The roteiros run in a copy of the folders, so that what they save
+/// leaves the originals alone.
 namespace varenta::teste {
 namespace {
 
@@ -82,7 +83,7 @@ struct Resultado {
     std::string saída, erros;
 };
 
-Resultado executar(const std::string& programa, const fs::path& roteiro) {
+Resultado executar(const std::string& programa, std::string opção, const fs::path& roteiro) {
     const PastaTemporaria pasta;
     const auto saída = pasta.caminho("saida"), erros = pasta.caminho("erros");
     posix_spawn_file_actions_t ações;
@@ -90,10 +91,11 @@ Resultado executar(const std::string& programa, const fs::path& roteiro) {
     posix_spawn_file_actions_addopen(&ações, STDIN_FILENO, "/dev/null", O_RDONLY, 0);
     posix_spawn_file_actions_addopen(&ações, STDOUT_FILENO, saída.c_str(), O_WRONLY | O_CREAT, 0600);
     posix_spawn_file_actions_addopen(&ações, STDERR_FILENO, erros.c_str(), O_WRONLY | O_CREAT, 0600);
-    std::string primeiro = programa, segundo = roteiro.string();
-    char* const argumentos[] = {primeiro.data(), segundo.data(), nullptr};
+    std::string primeiro = programa, último = roteiro.string();
+    std::vector<char*> argumentos = {primeiro.data(), último.data(), nullptr};
+    if (!opção.empty()) argumentos.insert(argumentos.begin() + 1, opção.data());
     pid_t processo = 0;
-    const int falha = posix_spawn(&processo, programa.c_str(), &ações, nullptr, argumentos, environ);
+    const int falha = posix_spawn(&processo, programa.c_str(), &ações, nullptr, argumentos.data(), environ);
     posix_spawn_file_actions_destroy(&ações);
     if (falha != 0) throw std::runtime_error{"can't run " + programa};
     int fim = 0;
@@ -113,7 +115,7 @@ class CasoDeRoteiro : public testing::Test {
             return fs::path{roteiro_}.replace_extension(terminação);
         };
         ASSERT_TRUE(fs::exists(irmão(".esperado"))) << "falta " << irmão(".esperado").filename();
-        const auto r = executar(programa_, roteiro_);
+        const auto r = executar(programa_, bytesOu(irmão(".opcoes"), ""), roteiro_);
         comparar("saída", bytesDe(irmão(".esperado")), r.saída);
         comparar("saída de erros", bytesOu(irmão(".erros"), ""), reduzirCaminho(r.erros, roteiro_));
         EXPECT_EQ(r.estado, std::stoi(bytesOu(irmão(".status"), "0"))) << "estado de saída";
@@ -140,7 +142,7 @@ std::string nomeDeTeste(const fs::path& caminho) {
 /// Registers a test for each roteiro of a folder, and one that fails for each expectation without roteiro.
 /// Returns how many roteiros there are.
 std::size_t registrarPasta(const std::string& programa, const fs::path& cópia, const fs::path& pasta) {
-    const std::set<fs::path> esperados{".esperado", ".erros", ".status"};
+    const std::set<fs::path> esperados{".esperado", ".erros", ".status", ".opcoes"};
     std::set<fs::path> caminhos;
     for (const auto& entrada : fs::recursive_directory_iterator{cópia / pasta})
         caminhos.insert(entrada.path());

@@ -490,5 +490,15 @@ TEST_F(InterpreteGanchos, GanchoPodeInterromperORoteiro) {
     EXPECT_EQ(erros.str(), "a:1: a imagem não pôde ser gravada\n");
 }
 
+TEST_F(ComBancada, OsPassosDeUmaOperaçãoLongaSóSeMostramAPedido) {
+    for (const bool mostra : {false, true}) {
+        std::ostringstream saída, erros;
+        Interprete interprete{saída, erros};
+        interprete.mostrarProgresso = mostra;
+        interprete.executarTexto("clicar Bancada.demora", "a", {});
+        EXPECT_EQ(saída.str(), mostra ? "progresso: 0.25 um passo\\tlongo\n" : "");
+    }
+}
+
 } // namespace
 } // namespace varenta::teste

@@ -44,6 +44,24 @@ TEST(LinhaDeComando, AceitaProgresso) {
     EXPECT_EQ(chamar({"--progresso", "-"}, "telas\n").saída, "Form3: visível habilitada\n");
 }
 
+TEST(LinhaDeComando, ComProgressoOsPassosDeUmAjusteAparecem) {
+    // Without wind the search ends after its first stage: 100 steps of a quarter, and 35 of the second.
+    const PastaTemporaria pasta;
+    pasta.gravar("e.TXT", "a\nb\nc\nd\ne\n2\n6\n0\n45\n1\n1\t2\n3\t4\n");
+    const auto roteiro =
+        pasta.gravar("a.roteiro", "clicar Form3.TX15c\nclicar form_AjVen.Command4\nresponder sim\n"
+                                  "arquivo e.TXT\nclicar Form_E1.Option5\n"
+                                  "clicar form_AjVen.Command5\n");
+    const auto passos = [](const std::string& saída) {
+        std::size_t quantos = 0;
+        for (auto i = saída.find("progresso: "); i != std::string::npos; i = saída.find("progresso: ", i + 1))
+            ++quantos;
+        return quantos;
+    };
+    EXPECT_EQ(passos(chamar({roteiro}).saída), 0u);
+    EXPECT_EQ(passos(chamar({"--progresso", roteiro}).saída), 102u); // the deviation's own besides
+}
+
 TEST(LinhaDeComando, VáriosArquivosCorremTodosEOPiorEstadoVence) {
     const PastaTemporaria pasta;
     const auto bom = pasta.gravar("bom.roteiro", "clicar Form3.TX20B\ntelas\n");

@@ -1,5 +1,6 @@
 #include "shell/form3.h"
 
+#include "ajuste/form_ajven.h"
 #include "apoio/atalhos.h"
 #include "apoio/plataforma_teste.h"
 #include "aspersor/form1.h"
@@ -66,13 +67,6 @@ TEST_F(TelaPrincipal, CarregarNomeiaOArquivoDeAjuda) {
     EXPECT_EQ(arquivoDeAjuda, "C:\\Arquivos de programas\\Varenta\\VARENTA VERSÃO 5.0.hlp");
 }
 
-TEST_F(TelaPrincipal, ItensSemTelaEstãoDesabilitados) {
-    for (const char* nome : {"TX15c", "TX20c", "TX30c", "TX15d", "TX20d", "TX30d"})
-        EXPECT_EQ(recusaDe([&] { atos::clicar(alvo(form3, nome)); }),
-                  "Form3." + std::string{nome} + " está desabilitado");
-    EXPECT_TRUE(form3.visivel);
-}
-
 TEST_F(TelaPrincipal, ItensQueSóAbremUmSubmenuNãoSeClicam) {
     for (const char* nome : {"Simula_Vento", "Asp_KELMOb", "EntDa", "Ajuste", "Met_malha", "Asp_Kc",
                              "Met_auto", "Asp_kelmoD", "ajuda"})
@@ -87,6 +81,18 @@ TEST_F(TelaPrincipal, UmItemDeAspersorEscondeAPrincipalEMostraOAspersor) {
         EXPECT_FALSE(form3.visivel);
         EXPECT_FALSE(form3.habilitada);
         EXPECT_EQ(recusaDe([&] { atos::clicar(alvo(form3, nome)); }), "Form3 está oculta");
+    }
+}
+
+TEST_F(TelaPrincipal, UmItemDeAjusteEscondeAPrincipalEMostraOAjuste) {
+    for (const char* nome : {"TX15c", "TX20c", "TX30c", "TX15d", "TX20d", "TX30d"}) {
+        recomeçar();
+        atos::clicar(alvo(form3, nome));
+        EXPECT_TRUE(form_AjVen.visivel) << nome;
+        EXPECT_FALSE(form3.visivel);
+        atos::clicar(alvo(form_AjVen, "Command1"));
+        EXPECT_FALSE(form_AjVen.carregada());
+        EXPECT_TRUE(form3.visivel);
     }
 }
 

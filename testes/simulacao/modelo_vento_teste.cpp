@@ -519,6 +519,61 @@ TEST(LoteDoModeloDeVento, DáOsMesmosDoublesEOsMesmosErrosEmMeioMilhãoDePontosA
     EXPECT_GT(cobertura.estouros, 1000u);
 }
 
+TEST(LoteDoModeloDeVento, DáOsMesmosDoublesNoCírculoInteiroEComACunhaSecaÀFrente) {
+    std::mt19937_64 sorteio{2027};
+    for (const auto setor : {Setor::círculoInteiro, Setor::semCunhaÀFrente}) {
+        Cobertura cobertura;
+        while (cobertura.pontos < 100'000) {
+            auto c = sortearComuns(sorteio, 10);
+            c.setor = setor;
+            c.anguloGiro = 180 + 30 * static_cast<double>(sorteio() % 7);
+            ASSERT_NO_FATAL_FAILURE(compararLote(sortearPontos(sorteio, c.R, 301), c, cobertura));
+        }
+    }
+}
+
+TEST(IntensidadeSetor, EmVoltaInteiraNenhumPontoFicaSeco) {
+    const auto perfil = perfilDeTeste();
+    for (double theta = 1; theta < 360; theta += 1) {
+        const NoChão p{20, theta};
+        EXPECT_EQ(intensidadeSetor(perfil, p.x, p.y, 360, 40),
+                  intensidadeRelativa(perfil, std::sqrt(p.x * p.x + p.y * p.y) / 40));
+    }
+}
+
+TEST(IntensidadeSetor, ACunhaSecaFicaÀFrenteEOMolhadoRecebeAVazãoDoCírculo) {
+    const auto perfil = perfilDeTeste();
+    // 240 degrees leave 60 dry on either side of straight ahead. At 20 of 40 m the profile has 12.65 mm/h.
+    for (double theta = 1; theta < 360; theta += 2) {
+        const NoChão p{20, theta};
+        const bool seco = theta < 60 || theta > 300;
+        EXPECT_NEAR(intensidadeSetor(perfil, p.x, p.y, 240, 40), seco ? 0 : 12.65 * 1.5, 1e-9) << theta;
+    }
+}
+
+TEST(IntensidadeSetor, ConcordaComOSetorEntreÂngulosSecosIguais) {
+    std::mt19937_64 sorteio{15};
+    const auto entre = [&](double a, double b) { return std::uniform_real_distribution{a, b}(sorteio); };
+    const auto perfil = perfilDeTeste();
+    for (int vez = 0; vez < 20'000; ++vez) {
+        const double giro = std::floor(entre(180, 361)), seco = (360 - giro) / 2;
+        const NoChão p{entre(0.5, 39.9), entre(0, 360)};
+        const double d = distanciaNoSetor(seco, seco, 0, p.x, p.y, 40);
+        ASSERT_NEAR(intensidadeSetor(perfil, p.x, p.y, giro, 40),
+                    d == 0 ? 0 : perfilRadialEm(perfil, d / 40, giro), 1e-9);
+    }
+}
+
+TEST(IntensidadeSetor, UmPontoComUZeroLêOLugarDoAspersor) {
+    EXPECT_EQ(intensidadeSetor(perfilDeTeste(), 0, 30, 180, 40), 20 * 2.0);
+    EXPECT_EQ(intensidadeSetor(perfilDeTeste(), 0, 30, 360, 40), 20);
+}
+
+TEST(IntensidadeSetor, AlémDoAlcanceÉZero) {
+    EXPECT_EQ(intensidadeSetor(perfilDeTeste(), -40.001, 0, 240, 40), 0);
+    EXPECT_EQ(intensidadeSetor(perfilDeTeste(), 41, 1, 240, 40), 0);
+}
+
 TEST(LoteDoModeloDeVento, LotesDeQualquerTamanhoValemComoPontoAPonto) {
     std::mt19937_64 sorteio{2026};
     Cobertura cobertura;

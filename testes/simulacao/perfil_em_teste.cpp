@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <random>
 
 namespace varenta {
@@ -70,6 +71,15 @@ TEST(PerfilRadialEm, OsLimitesDosSegmentosSãoOsDecimaisEscritos) {
 TEST(PerfilRadialEm, ÂnguloDeGiroZeroÉDivisãoPorZeroTambémForaDoAlcance) {
     EXPECT_EQ(erroDe([] { perfilRadialEm(quadrados(), 0.5, 0); }), divisãoPorZero);
     EXPECT_EQ(erroDe([] { perfilRadialEm(quadrados(), 2, 0); }), divisãoPorZero);
+}
+
+TEST(IntensidadeRelativa, ÉADoCírculoInteiroETomaTambémOFimDoAlcance) {
+    for (const double u : {0.0, 0.01, 0.05, 0.5, 0.975, 0.9999})
+        EXPECT_EQ(intensidadeRelativa(quadrados(), u), em(u)) << u;
+    EXPECT_NEAR(intensidadeRelativa(quadrados(), 1), 99, 1e-9);
+    EXPECT_EQ(intensidadeRelativa(quadrados(), std::nextafter(1.0, 2.0)), 0);
+    EXPECT_EQ(intensidadeRelativa(quadrados(), -0.001), 0);
+    EXPECT_EQ(intensidadeRelativa(quadrados(), 5), 0);
 }
 
 TEST(IntensidadesDosRótulos, LêemCadaLegendaPelaConversãoEstrita) {

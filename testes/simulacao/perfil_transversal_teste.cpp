@@ -1,6 +1,7 @@
 #include "simulacao/fonte_aspersor.h"
 #include "simulacao/perfil_transversal.h"
 
+#include "apoio/aspersores_de_teste.h"
 #include "apoio/simulacao_feita_a_mao.h"
 #include "aspersor/atualizar_aspersor.h"
 #include "comum/numeros.h"
@@ -13,47 +14,6 @@ namespace varenta::teste {
 namespace {
 
 using Textos = std::vector<std::string>;
-
-PontosDoPerfil todos(double intensidade) {
-    PontosDoPerfil intensidades;
-    intensidades.fill(intensidade);
-    return intensidades;
-}
-
-/// A sprinkler that waters 10 mm/h everywhere within R and all around, at no wind and with no drift.
-DadosDaSimulação plano(double R, float S, double V) {
-    return {.condições = {.R = R,
-                          .A = 0,
-                          .B = 0,
-                          .C = 0,
-                          .D = 0,
-                          .E = 0,
-                          .F = 0,
-                          .W = 0,
-                          .anguloJato = radianos(24),
-                          .rotVento = rotaçãoDoVento(0),
-                          .anguloSecoI = 0,
-                          .anguloSecoII = 0,
-                          .rotacao = 0,
-                          .anguloGiro = 360,
-                          .intensidades = todos(10)},
-            .S = S,
-            .V = V};
-}
-
-/// The same with a profile that falls towards the reach, and the parameters that the screens start from.
-DadosDaSimulação típico() {
-    auto dados = plano(43.1, 1.5F, 50);
-    auto& c = dados.condições;
-    c.A = 0.0362 * c.R;
-    c.B = 0.0131 * c.R;
-    c.C = -0.0097 * c.R;
-    c.D = 0.0026 * c.R;
-    c.E = 0.4003 * c.R;
-    c.F = -0.3361 * c.R;
-    for (std::size_t k = 0; k < 22; ++k) c.intensidades[k] = 6 - 0.25 * static_cast<double>(k);
-    return dados;
-}
 
 double soma(const PerfilTransversal& perfil) {
     return std::accumulate(perfil.Lam.begin(), perfil.Lam.end(), 0.0);

@@ -204,6 +204,18 @@ TEST_F(UniformidadeNoCentro, MenosDeDuasPosiçõesÉEstouroDepoisDaTabela) {
     EXPECT_FALSE(form4->Command5.habilitado);
 }
 
+TEST_F(UniformidadeNoCentro, EspaçamentoSemPosiçõesÉDivisãoPorZeroDaLâminaTeórica) {
+    avançar();
+    calcularMaior();
+    const auto antes = form4->Label17.texto;
+    digitar("0.4"); // rounds to 0, which six divides, but isn't 0; over 2 m it makes no position
+    clicar("Command9");
+    EXPECT_EQ(caderno, Textos{"erro: Divisão por zero"});
+    EXPECT_EQ(form4->flexGrid_B.linhas, 1);
+    EXPECT_EQ(form4->Label17.texto, antes);
+    EXPECT_FALSE(form4->Command5.habilitado);
+}
+
 TEST_F(UniformidadeNoCentro, LeituraDaSobreposiçãoValeDentroDoRetânguloEForaFicaVazia) {
     avançarCom({"8.000", "8.000", "1.000", "2.000"});
     calcularMaior();

@@ -1,0 +1,129 @@
+#include "ajuste/ajustar.h"
+
+#include "ajuste/busca.h"
+#include "ajuste/form_ajcar.h"
+#include "ajuste/form_graf.h"
+#include "ajuste/form_migraf.h"
+#include "ajuste/ler_ensaio.h"
+#include "comum/erro_execucao.h"
+#include "comum/numeros.h"
+#include "comum/plataforma.h"
+
+#include <string>
+#include <vector>
+
+namespace varenta {
+namespace {
+
+/// `Form_AjCar` shows as long as this lasts.
+struct ProgressoNaTela {
+    ProgressoNaTela() { form_AjCar.mostrar(); }
+    ProgressoNaTela(const ProgressoNaTela&) = delete;
+    ProgressoNaTela& operator=(const ProgressoNaTela&) = delete;
+    ~ProgressoNaTela() { form_AjCar.descarregar(); }
+
+    static void escrever(const std::string& texto) {
+        if (form_AjCar->Label1.texto == texto) return;
+        form_AjCar->Label1.texto = texto;
+        relatar();
+    }
+
+    static void encher(double valor) {
+        if (form_AjCar->ProgressBar1.valor == valor) return;
+        form_AjCar->ProgressBar1.valor = valor;
+        relatar();
+    }
+
+    static void relatar() { plataforma::progresso(form_AjCar->ProgressBar1.valor, form_AjCar->Label1.texto); }
+};
+
+/// "1.023", "1.023 e 0.987", "1.023, 0.987 e 1.100".
+std::string listar(const std::vector<std::string>& textos) {
+    std::string lista;
+    for (std::size_t k = 0; k < textos.size(); ++k) {
+        if (k > 0) lista += k + 1 < textos.size() ? ", " : " e ";
+        lista += textos[k];
+    }
+    return lista;
+}
+
+void informarFatores(const std::vector<std::string>& fatores) {
+    std::vector<std::string> números;
+    for (std::size_t t = 1; t <= fatores.size(); ++t) números.push_back(std::to_string(t));
+    plataforma::mensagem("Para que as precipitações do Ensaio " + listar(números) +
+                         " coicidam com a vazão do aspersor, estes valores serão multiplicados" +
+                         (fatores.size() > 1 ? ", respectivamente," : "") + " por: " + listar(fatores) +
+                         " !");
+}
+
+/// The tests in use, made up to the sprinkler's flow.
+template <class Ensaio>
+std::vector<Ensaio> lerEnsaios(const TelaDeAjuste& tela, const AspersorDoAjuste& aspersor,
+                               Ensaio (*ler)(int, const AspersorDoAjuste&)) {
+    std::vector<Ensaio> ensaios;
+    std::vector<std::string> fatores;
+    for (int n = 1; n <= ensaiosEmUso(tela.controles); ++n) {
+        ensaios.push_back(ler(n, aspersor));
+        fatores.push_back(Format(igualarÀVazão(ensaios.back(), aspersor.Q), "0.000"));
+    }
+    informarFatores(fatores);
+    return ensaios;
+}
+
+/// Searches, and tells in plain words what a run-time error of the search means.
+template <class Ensaio>
+ResultadoDaBusca buscar(const std::vector<Ensaio>& ensaios, double tolerância, const std::string& unidade) {
+    const OuvinteDaBusca ouvinte{
+        .desvio =
+            [&](double D) { ProgressoNaTela::escrever("Desvio Médio: " + Format(D, "0.000") + unidade); },
+        .barra = ProgressoNaTela::encher};
+    ContagemDoModelo contagem;
+    try {
+        return buscarParametros(objetivoDosEnsaios(ensaios, contagem), tolerância, ouvinte);
+    } catch (const ErroExecucao& e) {
+        throw ErroExecucao{e.what() + std::string{": o ajuste não pôde continuar com estes ensaios. Em geral "
+                                                  "ajuda informar um vento acima de 0 m/s e coletores que "
+                                                  "alcancem além da área molhada, nenhum deles no lugar do "
+                                                  "aspersor."}};
+    }
+}
+
+void escreverResultado(const TelaDeAjuste& tela, const ResultadoDaBusca& resultado, double R) {
+    std::array<std::string, 6> textos;
+    for (std::size_t k = 0; k < textos.size(); ++k) textos[k] = Format(dividir(resultado.p[k], R), "0.0000");
+    const auto rótulos = tela.controles.resultados();
+    for (std::size_t k = 0; k < textos.size(); ++k) rótulos[k]->texto = textos[k];
+    plataforma::mensagem("O melhor ajuste apresentou um desvio médio igual a " +
+                         Format(resultado.desvio, "0.000") + " mm/h");
+}
+
+/// A whole fit. `rótuloDoDesvio` is the caption for the mean deviation on the test's result screen.
+template <class Ensaio>
+void ajustar(const TelaDeAjuste& tela, Ensaio (*ler)(int, const AspersorDoAjuste&), double tolerância,
+             const std::string& unidade, Rotulo& (*rótuloDoDesvio)(int)) {
+    const ProgressoNaTela progresso;
+    const auto aspersor = lerAspersor(tela);
+    const auto ensaios = lerEnsaios(tela, aspersor, ler);
+    const auto resultado = buscar(ensaios, tolerância, unidade);
+    escreverResultado(tela, resultado, aspersor.R);
+    for (int n = 1; n <= static_cast<int>(ensaios.size()); ++n)
+        rótuloDoDesvio(n).texto = "Desvio Médio Geral: " + Format(resultado.desvio, "0.000") + unidade;
+}
+
+} // namespace
+
+void ajustarParametrosMalha(const TelaDeAjuste& tela) {
+    ajustar(
+        tela, lerEnsaioDeMalha, 1e-5, " mm/h", +[](int n) -> Rotulo& { return form_graf(n)->Label16; });
+}
+
+void ajustarParametrosAutopropelido(const TelaDeAjuste& tela) {
+    ajustar(
+        tela, lerEnsaioMóvel, 1e-7, " mm", +[](int n) -> Rotulo& { return form_MIgraf(n)->Label16; });
+}
+
+int ensaiosEmUso(const ControlesDeAjuste& controles) {
+    return controles.Option7.marcada ? 3 : controles.Option6.marcada ? 2 : 1;
+}
+
+} // namespace varenta

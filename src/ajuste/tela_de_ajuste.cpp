@@ -1,0 +1,90 @@
+#include "ajuste/tela_de_ajuste.h"
+
+#include "ajuste/form_ajven.h"
+#include "ajuste/form_ajvenou.h"
+#include "aspersor/atualizar_aspersor.h"
+#include "comum/numeros.h"
+#include "simulacao/perfil_em.h"
+
+#include <string_view>
+
+namespace varenta {
+namespace {
+
+FichaDoAspersor fichaDoCatálogo() {
+    const auto& f = *form_AjVen.operator->();
+    FichaDoAspersor ficha;
+    const auto* modelo = modeloDaCaption(f.Caption);
+    if (!modelo) return ficha;
+    ficha.modelo = "KELMO-";
+    ficha.modelo += modelo->nome;
+    ficha.bocais = bocaisDasListas(*modelo, f.Combo1, f.Combo2);
+    ficha.pressão = std::to_string(f.hsbPressão.valor);
+    ficha.anguloJato = f.Label11.texto;
+    ficha.vazão = f.lblVazão.texto;
+    ficha.rótuloDoModelo = "ASPERSOR: " + ficha.modelo;
+    ficha.rótuloDosBocais = rótuloDosBocais(*modelo, f.Combo1, f.Combo2);
+    ficha.rótuloDaPressão = "Pressão: " + ficha.pressão + " m.c.a.";
+    return ficha;
+}
+
+/// The text between a beginning and an end that it may have.
+std::string miolo(std::string_view texto, std::string_view começo, std::string_view fim) {
+    if (texto.starts_with(começo)) texto.remove_prefix(começo.size());
+    if (texto.ends_with(fim)) texto.remove_suffix(fim.size());
+    return std::string{texto};
+}
+
+FichaDoAspersor fichaDoOutro() {
+    const auto& f = *form_AjvenOu.operator->();
+    FichaDoAspersor ficha;
+    ficha.modelo = miolo(f.lblAspersor.texto, "Aspersor: ", "");
+    ficha.bocais = miolo(f.lblBocais.texto, "Bocais: ", " mm");
+    ficha.pressão = miolo(f.lblPressão.texto, "Pressão: ", " m.c.a.");
+    ficha.anguloJato = f.Label11.texto;
+    ficha.vazão = f.Label17.texto;
+    ficha.rótuloDoModelo = "ASPERSOR: " + ficha.modelo;
+    ficha.rótuloDosBocais = f.lblBocais.texto;
+    ficha.rótuloDaPressão = f.lblPressão.texto;
+    return ficha;
+}
+
+} // namespace
+
+TelaDeAjuste telaDeAjuste(Aspersor aspersor) {
+    if (aspersor == Aspersor::doCatálogo) {
+        auto& f = *form_AjVen.operator->();
+        return {form_AjVen, f, f.lblVazão};
+    }
+    auto& f = *form_AjvenOu.operator->();
+    return {form_AjvenOu, f, f.Label17};
+}
+
+FichaDoAspersor fichaDoAspersor(Aspersor aspersor) {
+    return aspersor == Aspersor::doCatálogo ? fichaDoCatálogo() : fichaDoOutro();
+}
+
+AspersorDoAjuste lerAspersor(const TelaDeAjuste& tela) {
+    const auto& c = tela.controles;
+    return {.R = lerPrefixo(c.lblRaioAlcance.texto),
+            .Q = simples(lerPrefixo(tela.vazão.texto)),
+            .anguloJato = radianos(lerPrefixo(c.Label11.texto)),
+            .intensidades = intensidadesDosRótulos(std::span{c.lblIntensidade}.subspan(1))};
+}
+
+Parametros parametrosMostrados(ControlesDeAjuste& controles, double R) {
+    const auto rótulos = controles.resultados();
+    Parametros p;
+    for (std::size_t k = 0; k < p.size(); ++k) p[k] = lerPrefixo(rótulos[k]->texto) * R;
+    return p;
+}
+
+BotõesDoMétodo botõesDoMétodo(ControlesDeAjuste& c, Método método) {
+    if (método == Método::malha)
+        return {
+            {&c.Command4, &c.Command3, &c.Command6}, &c.Command5, {&c.Command8, &c.Command9, &c.Command10}};
+    return {
+        {&c.Command11, &c.Command12, &c.Command13}, &c.Command17, {&c.Command14, &c.Command15, &c.Command16}};
+}
+
+} // namespace varenta

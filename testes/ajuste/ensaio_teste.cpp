@@ -1,0 +1,179 @@
+#include "ajuste/ensaio.h"
+
+#include "apoio/atalhos.h"
+#include "comum/numeros.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <numeric>
+#include <random>
+
+namespace varenta {
+namespace {
+
+using teste::erroDe;
+
+/// A sprinkler of 40 m whose intensity falls evenly from 20 mm/h to 0 at the reach.
+AspersorDoAjuste aspersorDeTeste() {
+    AspersorDoAjuste a{.R = 40, .Q = 30, .anguloJato = radianos(24), .intensidades = {}};
+    for (std::size_t k = 1; k < 21; ++k)
+        a.intensidades[k] = 20 * (1 - (0.025 + 0.05 * static_cast<double>(k - 1)));
+    a.intensidades[0] = 20;
+    return a;
+}
+
+/// The parameters that the simulation starts from, times the reach.
+Parametros parâmetrosDeTeste() {
+    return {0.0362 * 40, 0.0131 * 40, -0.0097 * 40, 0.0026 * 40, 0.4003 * 40, -0.3361 * 40};
+}
+
+TEST(Ensaio, OsLugaresFicamEmTornoDoMeio) {
+    // 4 places every 6 m: -9, -3, 3, 9.
+    for (int j = 0; j < 4; ++j) {
+        EXPECT_EQ(lugarAscendente(6, 4, j), -9 + 6 * j);
+        EXPECT_EQ(lugarDescendente(6, 4, j), 9 - 6 * j);
+    }
+    EXPECT_EQ(lugarAscendente(2, 5, 2), 0); // an odd number has one in the middle
+}
+
+TEST(Ensaio, AÁreaDoColetor) { EXPECT_NEAR(áreaDoColetor(8), 50.26548245743, 1e-9); }
+
+TEST(Ensaio, AMalhaCorreDeFrenteParaTrásEDaEsquerdaParaADireita) {
+    // Wind from straight ahead: the turn is a whole one, the wind frame is the ground frame, x ahead.
+    const auto ensaio = ensaioDeMalha(aspersorDeTeste(), {.W = 2, .direção = 0}, 2, 6, {1, 2, 3, 4});
+    const std::vector<double> X = {3, 3, -3, -3}, Y = {-3, 3, -3, 3};
+    for (std::size_t k = 0; k < 4; ++k) {
+        EXPECT_NEAR(ensaio.X[k], X[k], 1e-12);
+        EXPECT_NEAR(ensaio.Y[k], Y[k], 1e-12);
+    }
+    // 10 mm/h on cells of 36 m².
+    EXPECT_DOUBLE_EQ(ensaio.V, 0.36);
+    EXPECT_EQ(ensaio.observados, (std::vector<double>{1, 2, 3, 4}));
+}
+
+TEST(Ensaio, OVentoDaDireitaPõeADireitaÀFrenteDoVento) {
+    const auto ensaio = ensaioDeMalha(aspersorDeTeste(), {.W = 2, .direção = 90}, 2, 6, {1, 2, 3, 4});
+    // The second collector stands ahead to the right, at (3, 3) of the ground: right is now upwind.
+    EXPECT_NEAR(ensaio.X[1], 3, 1e-12);
+    EXPECT_NEAR(ensaio.Y[1], -3, 1e-12);
+}
+
+TEST(Ensaio, OXDaMalhaÉDePrecisãoSimples) {
+    // 0.1 x 0.5 is no float; the collector of 1 x 2 to the right stands at the float next to it.
+    const auto ensaio = ensaioDeMalha(aspersorDeTeste(), {.W = 0, .direção = 0}, 2, 0.1, {1, 1, 1, 1});
+    const double x = static_cast<double>(static_cast<float>(0.1 * -0.5)), y = 0.1 * 0.5;
+    const double cosseno = std::cos(doisPiDoModelo), seno = std::sin(doisPiDoModelo);
+    EXPECT_NE(x, 0.1 * -0.5);
+    EXPECT_EQ(ensaio.X[0], y * cosseno - x * seno);
+    EXPECT_EQ(ensaio.Y[0], x * cosseno + y * seno);
+}
+
+TEST(Ensaio, AVazãoSeIgualaMultiplicando) {
+    auto ensaio = ensaioDeMalha(aspersorDeTeste(), {.W = 2, .direção = 0}, 2, 6, {1, 2, 3, 4});
+    EXPECT_DOUBLE_EQ(igualarÀVazão(ensaio, 0.72F), static_cast<double>(0.72F) / 0.36);
+    EXPECT_NEAR(ensaio.observados[3], 8, 1e-6);
+    auto seco = ensaioDeMalha(aspersorDeTeste(), {.W = 2, .direção = 0}, 2, 6, {0, 0, 0, 0});
+    EXPECT_EQ(erroDe([&] { igualarÀVazão(seco, 1); }), "Divisão por zero");
+}
+
+TEST(Ensaio, SemVentoAMalhaEstimaOPerfilRadial) {
+    const auto ensaio = ensaioDeMalha(aspersorDeTeste(), {.W = 0, .direção = 30}, 16, 6, {});
+    ContagemDoModelo contagem;
+    const auto i = estimados(ensaio, parâmetrosDeTeste(), contagem);
+    ASSERT_EQ(i.size(), 256u);
+    for (std::size_t k = 0; k < i.size(); ++k) {
+        const double r = std::hypot(ensaio.X[k], ensaio.Y[k]);
+        EXPECT_NEAR(i[k], r < 40 ? 20 * (1 - r / 40) : 0, 1e-5) << r;
+    }
+    EXPECT_EQ(contagem.pontos, 256u);
+}
+
+TEST(Ensaio, AEstimativaDaMalhaÉADoPontoComOsÂngulosAbertos) {
+    const auto ensaio = ensaioDeMalha(aspersorDeTeste(), {.W = 3.5, .direção = 77}, 14, 6, {});
+    auto c = ensaio.condições;
+    const auto p = parâmetrosDeTeste();
+    c.A = p[0], c.B = p[1], c.C = p[2], c.D = p[3], c.E = p[4], c.F = p[5];
+    auto comÂngulos = c;
+    comÂngulos.setor = Setor::entreÂngulosSecos;
+    ContagemDoModelo contagem;
+    const auto i = estimados(ensaio, p, contagem);
+    for (std::size_t k = 0; k < i.size(); ++k) {
+        EXPECT_EQ(i[k], intensidadeEmPonto(ensaio.X[k], ensaio.Y[k], c).valor);
+        EXPECT_NEAR(i[k], intensidadeEmPonto(ensaio.X[k], ensaio.Y[k], comÂngulos).valor, 1e-9);
+    }
+}
+
+TEST(Ensaio, ALâminaÉASomaDosPassosVezesOTempoDeCadaUm) {
+    auto ensaio = ensaioMóvel(aspersorDeTeste(), {.W = 0, .direção = 0}, 2, 6, 30, 360, {1, 2});
+    // Sums 7 and 3, each over 6 m at 30 m/h.
+    const auto lâminas = lâminasEstimadas(ensaio, std::vector<double>{5, 2, 3, 0});
+    EXPECT_DOUBLE_EQ(lâminas[0], 1.4);
+    EXPECT_DOUBLE_EQ(lâminas[1], 0.6);
+    // 3 mm on strips of 6 m at 30 m/h: 0.54 m³/h.
+    EXPECT_DOUBLE_EQ(ensaio.V, 0.54);
+}
+
+TEST(Ensaio, OsPontosMóveisVãoDePosiçãoEmPosição) {
+    const auto ensaio = ensaioMóvel(aspersorDeTeste(), {.W = 0, .direção = 0}, 2, 6, 30, 360, {1, 2});
+    const std::vector<double> X = {3, -3, 3, -3}, Y = {-3, -3, 3, 3};
+    for (std::size_t k = 0; k < 4; ++k) {
+        EXPECT_NEAR(ensaio.X[k], X[k], 1e-12);
+        EXPECT_NEAR(ensaio.Y[k], Y[k], 1e-12);
+    }
+}
+
+TEST(Ensaio, SemVentoALâminaÉSimétricaEOGiroMantémAVazão) {
+    const auto estimar = [](double giro) {
+        ContagemDoModelo contagem;
+        return estimados(ensaioMóvel(aspersorDeTeste(), {.W = 0, .direção = 0}, 40, 2, 30, giro, {}),
+                         parâmetrosDeTeste(), contagem);
+    };
+    const auto inteiro = estimar(360), parte = estimar(240);
+    for (std::size_t j = 0; j < 20; ++j) EXPECT_NEAR(inteiro[j], inteiro[39 - j], 1e-9);
+    const double soma = std::accumulate(inteiro.begin(), inteiro.end(), 0.0);
+    EXPECT_NEAR(std::accumulate(parte.begin(), parte.end(), 0.0), soma, 0.02 * soma);
+    // A cone of 20 mm/h and 40 m holds a third of a cylinder: pi 1600 x 20 / 3 / 1000 m³/h, and the strips of
+    // 2 m at 30 m/h carry it away.
+    EXPECT_NEAR(soma * 2 * 30 / 1000, 33.51, 0.1);
+}
+
+TEST(Ensaio, OsDesviosSomamNaOrdemESóContamOndeHáDesvio) {
+    Avaliação a;
+    somarDesvios(a, std::vector<double>{1, 0, 5}, std::vector<double>{3, 0, 4});
+    EXPECT_EQ(a, (Avaliação{5, 2}));
+    somarDesvios(a, std::vector<double>{1}, std::vector<double>{2});
+    EXPECT_EQ(a, (Avaliação{6, 3}));
+    EXPECT_EQ(erroDe([&] { somarDesvios(a, std::vector<double>{1e200}, std::vector<double>{0}); }),
+              "Estouro");
+}
+
+TEST(Ensaio, OObjetivoSomaTodosOsEnsaiosNumaSóSoma) {
+    std::vector<double> observados(36, 5.0);
+    std::vector<EnsaioDeMalha> ensaios;
+    for (const double direção : {10.0, 200.0})
+        ensaios.push_back(ensaioDeMalha(aspersorDeTeste(), {.W = 2, .direção = direção}, 6, 6, observados));
+    ContagemDoModelo contagem;
+    const auto objetivo = objetivoDosEnsaios(ensaios, contagem);
+    const std::vector<Parametros> pontos = {parâmetrosDeTeste(), {1, 0, 0, 0, 0, 0}};
+    const auto valores = objetivo(pontos);
+    ASSERT_EQ(valores.size(), 2u);
+    for (std::size_t k = 0; k < 2; ++k) {
+        Avaliação esperada;
+        for (const auto& ensaio : ensaios)
+            somarDesvios(esperada, observados, estimados(ensaio, pontos[k], contagem));
+        EXPECT_EQ(valores[k], esperada);
+    }
+}
+
+TEST(Ensaio, NosVerdadeirosParâmetrosNãoHáDesvio) {
+    auto ensaio = ensaioDeMalha(aspersorDeTeste(), {.W = 3, .direção = 45}, 14, 6, {});
+    ContagemDoModelo contagem;
+    ensaio.observados = estimados(ensaio, parâmetrosDeTeste(), contagem);
+    Avaliação a;
+    somarDesvios(a, ensaio.observados, estimados(ensaio, parâmetrosDeTeste(), contagem));
+    EXPECT_EQ(a, (Avaliação{0, 0}));
+}
+
+} // namespace
+} // namespace varenta

@@ -1,0 +1,68 @@
+#pragma once
+
+#include "ajuste/controles_ajuste.h"
+#include "ajuste/form_ajvenou.h"
+#include "ajuste/form_e.h"
+#include "ajuste/form_mie.h"
+#include "apoio/atalhos.h"
+#include "apoio/plataforma_teste.h"
+#include "comum/operacoes.h"
+
+#include <gtest/gtest.h>
+
+#include <initializer_list>
+
+/// A sprinkler out of the catalogue and tests small enough to be worked by hand.
+namespace varenta::teste {
+
+/// A sprinkler of 6 m that waters 10 mm/h everywhere, of 0.936 m³/h.
+inline TextosDoAspersor aspersorDeSeisMetros() {
+    return {.título = "Características Técnicas do Aspersor Meu",
+            .aspersor = "Aspersor: Meu",
+            .bocais = "Bocais: 12 mm",
+            .pressão = "Pressão: 40 m.c.a.",
+            .raio = "6.00",
+            .vazão = "0.936",
+            .anguloJato = "24"};
+}
+
+inline void abrirFormAjvenOu(Método método) {
+    recomeçar();
+    prepararFormAjvenOu(aspersorDeSeisMetros(), método);
+    for (auto& rótulo : form_AjvenOu->lblIntensidade) rótulo.texto = "10.000";
+    form_AjvenOu.mostrar();
+}
+
+/// Fills the data cells row by row.
+inline void preencher(Grade& grade, std::initializer_list<const char*> textos) {
+    int l = 1, c = 1;
+    for (const char* texto : textos) {
+        grade.escrever(l, c, texto);
+        if (++c == grade.colunas) c = 1, ++l;
+    }
+}
+
+/// The grid test `n`: 2 x 2 collectors every 6 m, at (3, 3) and so on, without wind.
+inline void malhaDeQuatro(int n, std::initializer_list<const char*> leituras) {
+    auto& f = *form_E(n).operator->();
+    f.Combo2.texto = "2";
+    Erro_plan(n);
+    definirValor(f.HScroll2, 0);
+    preencher(f.flex_A, leituras);
+}
+
+/// The travelling test `n`: one line of one collector on each side every 6 m, at 60 m/h, all around, without
+/// wind.
+inline void móvelDeDois(int n, std::initializer_list<const char*> leituras) {
+    auto& f = *form_MiE(n).operator->();
+    f.Combo1.texto = "1";
+    f.Combo3.texto = "1";
+    f.Combo4.texto = "6.0";
+    f.Combo6.texto = "360";
+    f.Text1.texto = "60";
+    MIErro_plan(n);
+    definirValor(f.HScroll2, 0);
+    preencher(f.flex_A, leituras);
+}
+
+} // namespace varenta::teste
