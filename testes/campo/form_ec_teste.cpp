@@ -35,7 +35,8 @@ TEST_F(EnsaioDeCampo, AbreComAsListasPadrão) {
     clicar(form3, "EnsCampo");
     const auto& f = *formEC.operator->();
     EXPECT_EQ(formEC.caption(), "Perfil Móvel Determinado em Campo");
-    EXPECT_EQ(f.Combo1.texto + " " + f.Combo2.texto + " " + f.Combo3.texto + " " + f.Combo4.texto, "3 6.0 20 2.0");
+    EXPECT_EQ(f.Combo1.texto + " " + f.Combo2.texto + " " + f.Combo3.texto + " " + f.Combo4.texto,
+              "3 6.0 20 2.0");
     EXPECT_EQ(f.Combo1.itens.size(), 10U);
     EXPECT_EQ(f.Combo2.itens.front() + " " + f.Combo2.itens.back(), "1.0 12.0");
     EXPECT_EQ(f.Combo3.itens.front() + " " + f.Combo3.itens.back(), "3 40");
@@ -168,13 +169,14 @@ TEST_F(EnsaioDeCampo, UmaDistânciaQueNãoÉComprimentoDeixaSóOCarreador) {
 }
 
 TEST_F(EnsaioDeCampo, LimparEsvaziaCaixasECélulasEDeixaAsListas) {
-    for (const auto* nome : {"Text6", "Text8", "Text13", "Text11", "Text12", "Text9", "Text1", "Text7", "Text2",
-                             "Text3"})
+    for (const auto* nome :
+         {"Text6", "Text8", "Text13", "Text11", "Text12", "Text9", "Text1", "Text7", "Text2", "Text3"})
         digitar(formEC, nome, "1");
     clicar(formEC, "Command2");
     const auto& f = *formEC.operator->();
-    EXPECT_EQ(f.Text6.texto + f.Text8.texto + f.Text13.texto + f.Text11.texto + f.Text12.texto + f.Text9.texto +
-                  f.Text1.texto + f.Text7.texto + f.Text2.texto + f.Text3.texto + f.Text5.texto,
+    EXPECT_EQ(f.Text6.texto + f.Text8.texto + f.Text13.texto + f.Text11.texto + f.Text12.texto +
+                  f.Text9.texto + f.Text1.texto + f.Text7.texto + f.Text2.texto + f.Text3.texto +
+                  f.Text5.texto,
               "");
     EXPECT_EQ(f.lblPreenchidas.texto, "Células preenchidas: 0 de 8");
     EXPECT_EQ(f.Combo1.texto, "2");
@@ -320,9 +322,10 @@ TEST_F(ArquivoDoEnsaioDeCampo, EmMmTem14LinhasEAsLeiturasSemFimDeLinha) {
 TEST_F(ArquivoDoEnsaioDeCampo, EmMlTemODiâmetroEOQueEstáVazioÉNãoEspecificado) {
     clicar(formEC, "Option3");
     digitar(formEC, "Text7", "8");
-    EXPECT_EQ(salvar(), "Não Especificado\r\nN/E\r\nN/E\r\nN/E\r\n30.5\r\n50\r\n360\r\n2\r\n6.0\r\n2\r\n2.0\r\n\r\n"
-                        "\r\n2\r\n8\r\n" +
-                            leituras);
+    EXPECT_EQ(salvar(),
+              "Não Especificado\r\nN/E\r\nN/E\r\nN/E\r\n30.5\r\n50\r\n360\r\n2\r\n6.0\r\n2\r\n2.0\r\n\r\n"
+              "\r\n2\r\n8\r\n" +
+                  leituras);
 }
 
 TEST_F(ArquivoDoEnsaioDeCampo, UmTextoSemVazãoVelocidadeEÂnguloOsDizNãoEspecificados) {
@@ -346,7 +349,8 @@ TEST_F(ArquivoDoEnsaioDeCampo, OQueSeSalvaSeLêNasDuasUnidades) {
         clicar(formEC, "Command2");
         escolher(formEC, "Combo1", "5");
         abrir(bytes);
-        EXPECT_EQ(caderno, (std::vector<std::string>{perguntaDoArquivo, "abrir: Arquivos Texto (*.TXT)|*.TXT"}));
+        EXPECT_EQ(caderno,
+                  (std::vector<std::string>{perguntaDoArquivo, "abrir: Arquivos Texto (*.TXT)|*.TXT"}));
         EXPECT_TRUE(formEC->Option2.marcada);
         EXPECT_EQ(salvar("outra.txt"), bytes) << unidade;
         clicar(formEC, "Option1");
@@ -412,7 +416,8 @@ TEST_F(ArquivoDoEnsaioDeCampo, LinhasQueNãoSãoQuantidadesSãoRecusadas) {
 
 TEST_F(ArquivoDoEnsaioDeCampo, UmaUnidadeDesconhecidaÉRecusada) {
     for (const auto* unidade : {"3", "", "mm"})
-        esperarQueNãoAbre(semLeituras + "1\r\n6\r\n3\r\n2\r\n\r\n\r\n" + unidade + "\r\n1\r\n2\r\n3\r\n4\r\n5\r\n6");
+        esperarQueNãoAbre(semLeituras + "1\r\n6\r\n3\r\n2\r\n\r\n\r\n" + unidade +
+                          "\r\n1\r\n2\r\n3\r\n4\r\n5\r\n6");
 }
 
 TEST_F(ArquivoDoEnsaioDeCampo, UmArquivoQueAcabaNoCabeçalhoOuFaltaÉRecusado) {
@@ -449,16 +454,15 @@ TEST_F(ArquivoDoEnsaioDeCampo, UmaLeituraQueNãoÉNúmeroDeixaAPlanilhaEmParte) 
     abrir(semLeituras + "1\r\n6\r\n3\r\n2\r\n\r\n\r\n2\r\n8\r\n1\r\n2\r\nx\r\n4\r\n5\r\n6");
     EXPECT_EQ(caderno.back(), não);
     EXPECT_TRUE(formEC->Option1.marcada);
-    EXPECT_EQ(coluna(1),
-              (std::vector<std::string>{"Linha 1 - I(ml)", "1.000", "2.000", "", "", "", ""}));
+    EXPECT_EQ(coluna(1), (std::vector<std::string>{"Linha 1 - I(ml)", "1.000", "2.000", "", "", "", ""}));
     EXPECT_EQ(formEC->lblPreenchidas.texto, "Células preenchidas: 2 de 6");
     EXPECT_EQ(formEC->Combo3.texto, "3");
 }
 
 TEST_F(ArquivoDoEnsaioDeCampo, LeiturasDeOutroTamanhoSãoRecusadas) {
     const auto cabeça = semLeituras + "1\r\n6\r\n3\r\n2\r\n\r\n\r\n1\r\n";
-    for (const auto* resto : {"1\r\n2\r\n3\r\n4\r\n5", "1\r\n2\t9\r\n3\r\n4\r\n5\r\n6", "1\r\n\r\n3\r\n4\r\n5\r\n6",
-                              "1\r\n2\r\n3\r\n4\r\n5\r\n6\r\n7"}) {
+    for (const auto* resto : {"1\r\n2\r\n3\r\n4\r\n5", "1\r\n2\t9\r\n3\r\n4\r\n5\r\n6",
+                              "1\r\n\r\n3\r\n4\r\n5\r\n6", "1\r\n2\r\n3\r\n4\r\n5\r\n6\r\n7"}) {
         abrir(cabeça + resto);
         EXPECT_EQ(caderno.back(), não) << resto;
         EXPECT_TRUE(formEC->Option1.marcada);

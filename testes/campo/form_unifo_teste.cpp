@@ -97,7 +97,8 @@ TEST_F(SobreposiçãoDoMóvel, ComCUCIguaisFicaOMenorEspaçamento) {
 
 TEST_F(SobreposiçãoDoMóvel, ODetalheTemDistânciaLinhasEMédia) {
     const auto& f = *formUnifo.operator->();
-    EXPECT_EQ(linha(f.flexGrid_B, 0), (Textos{"Distância (m)", "Linha  1 - I(mm)", "Linha  2 - I(mm)", "Média - I(mm)"}));
+    EXPECT_EQ(linha(f.flexGrid_B, 0),
+              (Textos{"Distância (m)", "Linha  1 - I(mm)", "Linha  2 - I(mm)", "Média - I(mm)"}));
     EXPECT_EQ(f.flexGrid_B.linhas, 4);
     EXPECT_EQ(linha(f.flexGrid_B, 1), (Textos{"1.00", "7.000", "14.000", "10.500"}));
     EXPECT_EQ(linha(f.flexGrid_B, 2), (Textos{"3.00", "6.000", "12.000", "9.000"}));

@@ -44,9 +44,9 @@ TEST(CentroSegmento, ÉOCentroideDoSegmento) {
 }
 
 TEST(InverterPerfilMóvel, DoisAnéisFeitosÀMão) {
-    // Collectors at 1 and 3 m, depths 4 and 2 mm: the line reaches 0 at 5 m. At 10 m/h the outer ring is under
-    // water for 8 m / 10 m/h at 3 m: 2.5 mm/h. At 1 m it is for 2 (sqrt 24 - sqrt 8) / 10 h, so it gives
-    // 1.035276 mm there; the rest falls in 2 sqrt 8 / 10 h: 5.240941 mm/h.
+    // Collectors at 1 and 3 m, depths 4 and 2 mm: the line reaches 0 at 5 m. At 10 m/h the outer ring is
+    // under water for 8 m / 10 m/h at 3 m: 2.5 mm/h. At 1 m it is for 2 (sqrt 24 - sqrt 8) / 10 h, so it
+    // gives 1.035276 mm there; the rest falls in 2 sqrt 8 / 10 h: 5.240941 mm/h.
     const auto [R, anéis] = inverterPerfilMóvel(perfilMóvel({4, 2}, 2), 10, 0);
     EXPECT_DOUBLE_EQ(R, 5);
     ASSERT_EQ(anéis.size(), 3U);
@@ -143,7 +143,8 @@ TEST(InverterPerfilMóvel, VelocidadeZeroÉDivisãoPorZero) {
 }
 
 TEST(RecusaDoPerfilMóvel, UmaLâminaNegativaÉRecusada) {
-    EXPECT_STREQ(recusaDoPerfilMóvel(perfilMóvel({4, -0.001, 2}, 2)), "Os valores de lâmina devem ser positivos!");
+    EXPECT_STREQ(recusaDoPerfilMóvel(perfilMóvel({4, -0.001, 2}, 2)),
+                 "Os valores de lâmina devem ser positivos!");
 }
 
 TEST(RecusaDoPerfilMóvel, SóOÚltimoParÉConferido) {
@@ -291,8 +292,9 @@ TEST_F(PerfilDoMóvel, LâminasQueNãoDãoPerfilSãoRecusadasETudoFica) {
     EXPECT_EQ(caderno, std::vector<std::string>{"mensagem: Os valores de lâmina devem ser positivos!"});
     abrirFormEC("PerfRad", {{"4"}, {"2"}, {"2"}, {"4"}});
     gerar();
-    EXPECT_EQ(caderno, std::vector<std::string>{"mensagem: A média do penúltimo valor deve ser maior que o último "
-                                                "valor em cada lado da linha!"});
+    EXPECT_EQ(caderno,
+              std::vector<std::string>{"mensagem: A média do penúltimo valor deve ser maior que o último "
+                                       "valor em cada lado da linha!"});
     EXPECT_FALSE(perfil.carregada());
     EXPECT_EQ(formEC->Text12.texto, "");
 }
@@ -307,8 +309,22 @@ TEST_F(PerfilDoMóvel, UmaPosiçãoMolhadaOuDuasIguaisTerminamComErroDeExecuçã
 }
 
 TEST_F(PerfilDoMóvel, SegueParaASimulaçãoComÂnguloZero) {
-    abrirFormEC("PerfRad", {{"1"}, {"2"}, {"3"}, {"4"}, {"5"}, {"6"}, {"7"}, {"8"},
-                            {"8"}, {"7"}, {"6"}, {"5"}, {"4"}, {"3"}, {"2"}, {"1"}});
+    abrirFormEC("PerfRad", {{"1"},
+                            {"2"},
+                            {"3"},
+                            {"4"},
+                            {"5"},
+                            {"6"},
+                            {"7"},
+                            {"8"},
+                            {"8"},
+                            {"7"},
+                            {"6"},
+                            {"5"},
+                            {"4"},
+                            {"3"},
+                            {"2"},
+                            {"1"}});
     digitar(formEC, "Text6", "Canhão B");
     digitar(formEC, "Text1", "24");
     respostas = {true, true};
@@ -317,8 +333,7 @@ TEST_F(PerfilDoMóvel, SegueParaASimulaçãoComÂnguloZero) {
     caderno.clear();
     clicar(perfil, "Command6");
     EXPECT_TRUE(form7.visivel);
-    EXPECT_EQ(caderno,
-              std::vector<std::string>{"aviso: Ângulo do jato não informado: a simulação usa 0º."});
+    EXPECT_EQ(caderno, std::vector<std::string>{"aviso: Ângulo do jato não informado: a simulação usa 0º."});
     EXPECT_EQ(form7->Label20.texto, "Aspersor: Canhão B");
     EXPECT_EQ(form7->Label18.texto, "Pressão de Serviço: N/E");
 }

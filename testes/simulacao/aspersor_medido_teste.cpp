@@ -85,8 +85,9 @@ TEST_F(SimulaçãoDoMedido, EntradasInválidasSãoRecusadasComoNasDoCatálogo) {
     caderno.clear();
     digitar(form7, "Text1", "0");
     clicar(form7, "Command8");
-    EXPECT_EQ(caderno, std::vector<std::string>{"mensagem: O valor de velocidade do aspersor deve ser maior que "
-                                                "zero e menor que 300 m/h!"});
+    EXPECT_EQ(caderno,
+              std::vector<std::string>{"mensagem: O valor de velocidade do aspersor deve ser maior que "
+                                       "zero e menor que 300 m/h!"});
     EXPECT_FALSE(form7->Command9.habilitado);
 }
 
@@ -117,9 +118,10 @@ TEST_F(SimulaçãoDoMedido, OAvisoDoÂnguloVemDepoisDosDoModelo) {
     caderno.clear();
     avisarDoModelo(lblAviso, contagem);
     avisarDoÂngulo(lblAviso, aspersorMedido());
-    EXPECT_EQ(lblAviso.texto, "Aviso: em 2 de 10 pontos o modelo de vento não convergiu; os valores podem não "
-                              "ter sentido físico.\nAviso: " +
-                                  avisoDoÂngulo);
+    EXPECT_EQ(lblAviso.texto,
+              "Aviso: em 2 de 10 pontos o modelo de vento não convergiu; os valores podem não "
+              "ter sentido físico.\nAviso: " +
+                  avisoDoÂngulo);
     EXPECT_EQ(caderno.size(), 2U);
 }
 

@@ -21,21 +21,24 @@ class CentroDoMedido : public testing::Test {
 
     static std::vector<std::string> dados() {
         const auto& f = *form4.operator->();
-        return {f.Label1.texto, f.Label2.texto, f.Label3.texto, f.Label4.texto, f.Label8.texto, f.Label7.texto};
+        return {f.Label1.texto, f.Label2.texto, f.Label3.texto,
+                f.Label4.texto, f.Label8.texto, f.Label7.texto};
     }
 };
 
 TEST_F(CentroDoMedido, CalcularEscreveOsDadosSemRepetirNomesEUnidades) {
     clicar(form7, "Command8");
-    EXPECT_EQ(dados(), (std::vector<std::string>{"Pressão: 45 m.c.a.", "Bocais: 20 x 7 mm", "Ângulo: 1.5 graus",
-                                                 "Velocidade: 50 m/h", "Vazão: 4.2 m³/h", "Raio: 20.00 m"}));
+    EXPECT_EQ(dados(),
+              (std::vector<std::string>{"Pressão: 45 m.c.a.", "Bocais: 20 x 7 mm", "Ângulo: 1.5 graus",
+                                        "Velocidade: 50 m/h", "Vazão: 4.2 m³/h", "Raio: 20.00 m"}));
     EXPECT_FALSE(form1.carregada());
 }
 
 TEST_F(CentroDoMedido, AvançarMostraOsMesmosDadosComOÂngulo) {
     clicar(form7, "Command9");
-    EXPECT_EQ(dados(), (std::vector<std::string>{"Pressão: 45 m.c.a.", "Bocais: 20 x 7 mm", "Ângulo: 240 graus",
-                                                 "Velocidade: 50 m/h", "Vazão: 4.2 m³/h", "Raio: 20.00 m"}));
+    EXPECT_EQ(dados(),
+              (std::vector<std::string>{"Pressão: 45 m.c.a.", "Bocais: 20 x 7 mm", "Ângulo: 240 graus",
+                                        "Velocidade: 50 m/h", "Vazão: 4.2 m³/h", "Raio: 20.00 m"}));
     EXPECT_EQ(form4.caption(), "Uniformidade no Centro da Faixa com Vento - Aspersor não Especificado");
     // 2 x 20 m: from 12 m, the whole sixes below 16 m, to 36 m.
     EXPECT_EQ(form4->cmbEspaçamento.itens, (std::vector<std::string>{"12", "18", "24", "30", "36"}));
