@@ -98,7 +98,7 @@ TEST_F(NaTelaDeTeste, mostra_o_que_o_registro_tem) {
     auto& r = *telaDeTeste.operator->();
     r.rótulo = {.texto = "outro"};
     r.quadro = {.texto = "Outro", .habilitado = false};
-    r.barra = {.valor = 7, .mínimo = 5, .máximo = 9};
+    r.barra = {.valor = 7.25, .mínimo = 5, .máximo = 9};
     r.caixa.visivel = false;
     r.verificação.marcada = true;
     r.item.habilitado = false;
@@ -113,9 +113,10 @@ TEST_F(NaTelaDeTeste, mostra_o_que_o_registro_tem) {
     EXPECT_EQ(w<QLabel>("rótulo").text(), "outro");
     EXPECT_EQ(w<QGroupBox>("quadro").title(), "Outro");
     EXPECT_FALSE(w<QGroupBox>("quadro").isEnabled());
-    EXPECT_EQ(w<QProgressBar>("barra").value(), 7);
-    EXPECT_EQ(w<QProgressBar>("barra").minimum(), 5);
-    EXPECT_EQ(w<QProgressBar>("barra").maximum(), 9);
+    // The widget counts quarters.
+    EXPECT_EQ(w<QProgressBar>("barra").value(), 29);
+    EXPECT_EQ(w<QProgressBar>("barra").minimum(), 20);
+    EXPECT_EQ(w<QProgressBar>("barra").maximum(), 36);
     EXPECT_TRUE(w<QLineEdit>("caixa").isHidden());
     EXPECT_TRUE(w<QCheckBox>("verificação").isChecked());
     EXPECT_FALSE(w<QAction>("item").isEnabled());
