@@ -23,7 +23,9 @@
 /// relative to the root. PROGRAMA runs it, and what it prints is held against the files beside it: *.esperado
 /// (standard output), *.erros (standard error, the roteiro's path as its name alone; empty where the file is
 /// missing) and *.status (exit status; 0 where the file is missing). *.opcoes holds an option that the
-/// program is given before the roteiro. The roteiros run in a copy of the folders, so that what they save
+/// program is given before the roteiro. *.progresso is the standard output with the steps of long
+/// runs too. *.gravados names the files that it saves, each with the file that must
+/// equal it. The roteiros run in a copy of the folders, so that what they save
 /// leaves the originals alone.
 namespace varenta::teste {
 namespace {
@@ -119,9 +121,23 @@ class CasoDeRoteiro : public testing::Test {
         comparar("saída", bytesDe(irmão(".esperado")), r.saída);
         comparar("saída de erros", bytesOu(irmão(".erros"), ""), reduzirCaminho(r.erros, roteiro_));
         EXPECT_EQ(r.estado, std::stoi(bytesOu(irmão(".status"), "0"))) << "estado de saída";
+        compararGravados(bytesOu(irmão(".gravados"), ""));
+        if (fs::exists(irmão(".progresso")))
+            comparar("saída com o progresso", bytesDe(irmão(".progresso")),
+                     executar(programa_, "--progresso", roteiro_).saída);
     }
 
   private:
+    /// Each line names a file that the roteiro has saved and, after a tab, the one that it must equal.
+    void compararGravados(const std::string& pares) const {
+        for (const auto& par : linhasDe(pares)) {
+            const auto tabulação = par.find('\t');
+            const auto gravado = par.substr(0, tabulação), esperado = par.substr(tabulação + 1);
+            comparar(gravado.c_str(), bytesDe(roteiro_.parent_path() / esperado),
+                     bytesDe(roteiro_.parent_path() / gravado));
+        }
+    }
+
     std::string programa_;
     fs::path roteiro_;
 };
@@ -142,7 +158,8 @@ std::string nomeDeTeste(const fs::path& caminho) {
 /// Registers a test for each roteiro of a folder, and one that fails for each expectation without roteiro.
 /// Returns how many roteiros there are.
 std::size_t registrarPasta(const std::string& programa, const fs::path& cópia, const fs::path& pasta) {
-    const std::set<fs::path> esperados{".esperado", ".erros", ".status", ".opcoes"};
+    const std::set<fs::path> esperados{".esperado", ".erros",    ".status",
+                                       ".opcoes",   ".gravados", ".progresso"};
     std::set<fs::path> caminhos;
     for (const auto& entrada : fs::recursive_directory_iterator{cópia / pasta})
         caminhos.insert(entrada.path());
