@@ -13,7 +13,8 @@ struct Lugar {
 
 /// The point `k` of `pontos`, at k h from the first of `N` values, with h = e (N - 1) / (pontos - 1).
 Lugar lugarDoPonto(std::size_t k, std::size_t pontos, std::size_t N, double e) {
-    if (N < 2) return {0, 0, 0};
+    // Rounding keeps neither a single value nor the last one exactly.
+    if (N < 2 || k + 1 == pontos) return {N - 1, N - 1, 0};
     const double h = 2 * (e * (static_cast<double>(N) / 2 - 0.5)) / static_cast<double>(pontos - 1);
     const double distância = static_cast<double>(k) * h;
     const auto antes = std::min(static_cast<std::size_t>(distância / e), N - 2);

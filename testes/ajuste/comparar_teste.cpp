@@ -25,6 +25,12 @@ class ComparaçãoDoAjuste : public testing::Test {
 // Without wind the parameters have no effect, and each of the four collectors stands within the reach, at
 // 4.24 m: it gets 10 mm/h. 10 mm/h on four cells of 36 m² make 1.44 m³/h.
 
+/// The one map that a drawing consists of.
+Mosaico mapaDe(const Desenho& desenho) {
+    EXPECT_EQ(desenho.traços.size(), 1u);
+    return std::get<Mosaico>(desenho.traços.at(0));
+}
+
 TEST_F(ComparaçãoDoAjuste, AMalhaComparaAsPrecipitaçõesNaVazãoDoAspersor) {
     // They catch 5 + 7 + 8 + 6 = 26 mm/h, 0.936 m³/h, which is the flow: the factor is 1. The deviations are
     // 5, 3, 2 and 4: sqrt(54 / 4).
@@ -49,16 +55,15 @@ TEST_F(ComparaçãoDoAjuste, AMalhaComparaAsPrecipitaçõesNaVazãoDoAspersor) {
 TEST_F(ComparaçãoDoAjuste, OsDoisMapasTêmUmaSóEscalaECadaUmOSeuLugar) {
     malhaDeQuatro(1, {"5", "7", "8", "6"});
     comparar("Command8");
-    const auto& observadas = form_graf(1)->Picture1.traços;
-    const auto& estimadas = form_graf(1)->Picture2.traços;
-    ASSERT_EQ(observadas.size(), 40'000u);
-    ASSERT_EQ(estimadas.size(), 40'000u);
-    const auto& primeira = std::get<CaixaCheia>(observadas[0]);
+    const auto observadas = mapaDe(form_graf(1)->Picture1), estimadas = mapaDe(form_graf(1)->Picture2);
+    ASSERT_EQ(observadas.cores.size(), 40'000u);
+    ASSERT_EQ(estimadas.cores.size(), 40'000u);
+    const auto primeira = observadas.caixa(0);
     EXPECT_EQ(primeira.x1, 960);
     EXPECT_EQ(primeira.y1, 525);
     // 5 of 11: 255 - 5 x 255 / 11 = 139.09.
     EXPECT_EQ(primeira.cor, corDe(139, 139, 255));
-    const auto& outra = std::get<CaixaCheia>(estimadas[0]);
+    const auto outra = estimadas.caixa(0);
     EXPECT_EQ(outra.x1, 5470);
     EXPECT_EQ(outra.y1, 525);
     // 10 of 11: 23.18.
@@ -185,7 +190,7 @@ TEST_F(ComparaçãoDoAutopropelido, ComparaAsLâminasNaVazãoDoAspersor) {
     EXPECT_EQ(f.Label20.texto, "Maior Lâmina Estimada: 2.000 mm");
     EXPECT_EQ(f.Label15.texto, "Maior Lâmina Observada: 1.500 mm");
     EXPECT_EQ(f.Label14.texto, "11.0 mm/h");
-    EXPECT_EQ(f.Picture2.traços.size(), 40'000u);
+    EXPECT_EQ(mapaDe(f.Picture2).cores.size(), 40'000u);
     EXPECT_EQ(textos(f.Label5), (Textos{"-3.0", "-2.0", "-1.0", "0.0", "1.0", "2.0", "3.0"}));
 }
 
@@ -235,8 +240,8 @@ TEST_F(ComparaçãoDoAutopropelido, ACunhaSecaTiraAÁguaDoAspersorQueAindaVemVin
     EXPECT_EQ(f.Label13.texto, "Maior Precipitação: 20.000 mm/h");
     EXPECT_EQ(f.Label20.texto, "Maior Lâmina Estimada: 2.000 mm");
     // The map's rows run from the first step, ahead and dry, to the last.
-    EXPECT_EQ(std::get<CaixaCheia>(f.Picture2.traços.front()).cor, cores::branco);
-    EXPECT_NE(std::get<CaixaCheia>(f.Picture2.traços.back()).cor, cores::branco);
+    EXPECT_EQ(mapaDe(f.Picture2).cores.front(), cores::branco);
+    EXPECT_NE(mapaDe(f.Picture2).cores.back(), cores::branco);
 }
 
 TEST_F(ComparaçãoDoAutopropelido, AListaMostraALâminaEAsPrecipitaçõesDeCadaPasso) {

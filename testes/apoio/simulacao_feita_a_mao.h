@@ -31,4 +31,10 @@ inline void aspersorDeTrêsMetros(const std::string& intensidade) {
     form7->Label24.texto = form7->Label33.texto = "0";
 }
 
+/// Lets the sprinkler give no water at all.
+inline void secarAspersor() {
+    const std::string zero(1, '0');
+    for (auto& rótulo : form1->lblIntensidade) rótulo.texto = zero;
+}
+
 } // namespace varenta::teste

@@ -33,6 +33,23 @@ TEST(EscalaDeCores, ArredondaOMeioParaOPar) {
     EXPECT_EQ(GetRed(escala.cor(1)), 230u);
 }
 
+TEST(EscalaDeCores, MeioDeOnzeÉ127PorqueOPassoNãoÉExato) {
+    // 255 / 11 rounds upwards in its last bit, so 5.5 steps go a little past 127.5.
+    EXPECT_EQ(EscalaDeCores{10.25}.cor(5.5), corDe(127, 127, 255));
+}
+
+TEST(EscalaDeCores, OMosaicoTemACorDeCadaValorNoSeuLugar) {
+    Matriz valores{2, 3};
+    valores.linha(0)[1] = 4;
+    valores.linha(1)[2] = 10;
+    const auto mosaico = EscalaDeCores{9.5}.mosaico(valores, 10, 20, 3, 4);
+    EXPECT_EQ(mosaico.linhas(), 2u);
+    EXPECT_EQ(mosaico.cores, (std::vector<Cor>{cores::branco, corDe(153, 153, 255), cores::branco,
+                                               cores::branco, cores::branco, cores::azul}));
+    EXPECT_EQ(mosaico.caixa(4).x1, 13);
+    EXPECT_EQ(mosaico.caixa(4).y2, 28);
+}
+
 TEST(EscalaDeCores, ForaDaEscalaFicaNoSeuFim) {
     const EscalaDeCores escala{9.5};
     EXPECT_EQ(escala.cor(-1), 16777215u);
