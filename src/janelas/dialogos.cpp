@@ -43,6 +43,42 @@ void preparar() {
     if (antesDeCadaDialogo) antesDeCadaDialogo();
 }
 
+/// Drops what the person does as long as it lives.
+class EntradasDescartadas : public QObject {
+  public:
+    EntradasDescartadas() { qApp->installEventFilter(this); }
+
+    bool eventFilter(QObject*, QEvent* evento) override {
+        switch (evento->type()) {
+        case QEvent::MouseButtonPress:
+        case QEvent::MouseButtonRelease:
+        case QEvent::MouseButtonDblClick:
+        case QEvent::MouseMove:
+        case QEvent::Wheel:
+        case QEvent::ContextMenu:
+        case QEvent::KeyPress:
+        case QEvent::KeyRelease:
+        case QEvent::ShortcutOverride:
+        case QEvent::Shortcut:
+        case QEvent::TouchBegin:
+        case QEvent::TouchUpdate:
+        case QEvent::TouchEnd:
+        case QEvent::Close:
+            evento->ignore();
+            return true;
+        default:
+            return false;
+        }
+    }
+};
+
+/// Lets the windows paint themselves. What the person did since the last time is not kept for later: nothing
+/// else can be started while a long run is at work, nor once it is over by a click that waited.
+void pintarSemOuvir() {
+    const EntradasDescartadas agora;
+    QCoreApplication::processEvents();
+}
+
 } // namespace
 
 Dialogos dialogosDoQt() {
@@ -151,6 +187,7 @@ void ajuda(std::optional<int> tópico) {
 void progresso(double valor, std::string_view texto) {
     if (auto* roteiro = Interprete::ativo()) roteiro->progresso(valor, texto);
     preparar();
+    pintarSemOuvir();
 }
 
 void encerrar() {

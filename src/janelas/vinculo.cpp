@@ -128,9 +128,11 @@ struct Vinculo::Ligar {
             // It would finish the word that is being typed.
             caixa.setCompleter(nullptr);
             digitarEm(*caixa.lineEdit());
-            QObject::connect(caixa.lineEdit(), &QLineEdit::editingFinished, &v, [v = &v, nome = nome] {
-                v->agir(nome, [](const Alvo&) { atos::confirmar(); });
-            });
+            // Only once the focus has arrived where the person takes it: it would be taken back to here.
+            QObject::connect(
+                caixa.lineEdit(), &QLineEdit::editingFinished, &v,
+                [v = &v, nome = nome] { v->agir(nome, [](const Alvo&) { atos::confirmar(); }); },
+                Qt::QueuedConnection);
         }
         QObject::connect(&caixa, &QComboBox::activated, &v,
                          [v = &v, nome = nome, caixa = &caixa](int índice) {

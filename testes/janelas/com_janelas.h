@@ -17,6 +17,7 @@
 #include <gtest/gtest.h>
 
 #include <deque>
+#include <filesystem>
 #include <optional>
 #include <stdexcept>
 #include <string>
@@ -46,6 +47,7 @@ class ComJanelas : public testing::Test {
                     caixas.push_back(filtros);
                     return tirar(arquivos);
                 },
+            .ajuda = [this](std::optional<int> tópico) { ajudas.push_back(tópico); },
         };
         iniciarSistema();
         janelas.emplace();
@@ -88,6 +90,12 @@ class ComJanelas : public testing::Test {
         QTest::keyClicks(&alvo, texto);
     }
 
+    /// The path of one of the sample files.
+    static QString exemplo(const char* nome) {
+        return QString::fromStdString(
+            (std::filesystem::path{__FILE__}.parent_path() / "../../exemplos" / nome).string());
+    }
+
     static void moverMouse(QWidget& widget, QPointF ponto, Qt::MouseButtons botões = Qt::NoButton) {
         QMouseEvent evento{QEvent::MouseMove, ponto, widget.mapToGlobal(ponto), Qt::NoButton, botões, {}};
         QApplication::sendEvent(&widget, &evento);
@@ -96,6 +104,8 @@ class ComJanelas : public testing::Test {
     std::optional<Janelas> janelas;
     /// The texts of all boxes that appeared.
     std::vector<QString> caixas;
+    /// The topics of the help that were asked for.
+    std::vector<std::optional<int>> ajudas;
     std::deque<bool> respostas;
     std::deque<std::optional<QString>> arquivos;
 

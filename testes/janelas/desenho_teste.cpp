@@ -110,6 +110,22 @@ TEST_F(Figura, o_que_foi_limpo_some) {
     EXPECT_FALSE(háTraço(pintar(), 50, 10));
 }
 
+TEST_F(Figura, mosaico_pinta_cada_caixa_de_sua_cor_linha_por_linha) {
+    // Three columns by two rows of boxes of 20 x 30 units.
+    const std::vector<Cor> mosaico{cores::vermelho, cores::verde,   cores::azul,
+                                   cores::preto,    cores::amarelo, cores::branco};
+    desenho.mosaico({10, 20, 20, 30, 3, mosaico});
+    const auto imagem = pintar();
+    const QColor esperadas[]{Qt::red, Qt::green, Qt::blue, Qt::black, Qt::yellow, Qt::white};
+    for (int n = 0; n < 6; ++n) {
+        const int esquerda = 2 * (10 + 20 * (n % 3)), topo = 2 * (20 + 30 * (n / 3));
+        // Sharp up to its edges.
+        for (const QPoint canto : {QPoint{1, 1}, {38, 1}, {1, 58}, {38, 58}, {20, 30}})
+            EXPECT_EQ(imagem.pixelColor(QPoint{esquerda, topo} + canto), esperadas[n]) << n;
+    }
+    EXPECT_NE(imagem.pixelColor(17, 60), QColor(Qt::red));
+}
+
 TEST_F(Figura, guarda_as_proporções_e_fica_no_meio) {
     widget.resize(400, 200);
     EXPECT_EQ(widget.transformação().map(QPointF{0, 0}), QPointF(100, 0));
@@ -193,6 +209,81 @@ TEST_F(Grafico, rótulos_fixos_ficam_no_lugar_dos_da_escala_vertical) {
     EXPECT_EQ(widget.quadroDosEixos().width(), antes.width() -
                                                    widget.fontMetrics().horizontalAdvance("1000000") +
                                                    widget.fontMetrics().horizontalAdvance("00.0"));
+}
+
+TEST_F(Grafico, rótulos_fixos_ficam_no_lugar_dos_da_escala_horizontal) {
+    const int antes = widget.minimumSizeHint().width();
+    widget.setProperty("rotulosXFixos", QStringList{"0.0", "0.1", "0.2", "0.3", "0.4", "0.5", "0.6", "1.0"});
+    widget.escreverEscalas({}, {"0", "1"});
+    const int fixos = widget.minimumSizeHint().width();
+    EXPECT_GT(fixos, antes);
+    widget.escreverEscalas({"um rótulo muito mais longo"}, {"0", "1"});
+    EXPECT_EQ(widget.minimumSizeHint().width(), fixos);
+}
+
+TEST_F(Grafico, proporcional_guarda_as_proporções_dos_eixos_no_meio_do_lugar) {
+    const QRect inteiro = widget.quadroDosEixos();
+    widget.setProperty("proporcional", true);
+    widget.setProperty("eixos", QRectF{960, 525, 3300, 3300});
+    const QRect quadro = widget.quadroDosEixos();
+    EXPECT_EQ(quadro.width(), quadro.height());
+    EXPECT_EQ(quadro.height(), inteiro.height());
+    EXPECT_EQ(quadro.center(), inteiro.center());
+    EXPECT_EQ(widget.transformação().map(QPointF{960, 525}), QPointF{quadro.topLeft()});
+    // Higher than it is wide, the width is what is used up.
+    widget.resize(300, 700);
+    EXPECT_EQ(widget.quadroDosEixos().width(), widget.quadroDosEixos().height());
+    EXPECT_LT(widget.quadroDosEixos().height(), 300);
+}
+
+TEST_F(Grafico, proporcional_deseja_o_lugar_de_que_os_eixos_precisam) {
+    widget.setProperty("proporcional", true);
+    widget.setProperty("eixos", QRectF{0, 0, 1000, 1000});
+    widget.setProperty("linhasDeAltura", 30);
+    widget.resize(widget.sizeHint());
+    const QRect quadro = widget.quadroDosEixos();
+    EXPECT_EQ(widget.height(), 30 * widget.fontMetrics().height());
+    widget.resize(widget.width(), widget.height() + 200);
+    EXPECT_NEAR(widget.quadroDosEixos().width(), quadro.width(), 1);
+    widget.resize(widget.width() + 200, 30 * widget.fontMetrics().height());
+    EXPECT_NEAR(widget.quadroDosEixos().width(), quadro.width(), 1);
+}
+
+TEST_F(Grafico, os_títulos_e_as_escalas_ficam_junto_aos_eixos_proporcionais) {
+    widget.setProperty("proporcional", true);
+    widget.setProperty("eixos", QRectF{0, 0, 100, 100});
+    widget.resize(900, 300);
+    const auto imagem = widget.grab().toImage();
+    const QRect quadro = widget.quadroDosEixos();
+    const auto fundo = imagem.pixelColor(0, 0);
+    int maisÀEsquerda = imagem.width();
+    for (int y = 0; y < imagem.height(); ++y)
+        for (int x = 0; x < maisÀEsquerda; ++x)
+            if (imagem.pixelColor(x, y) != fundo) maisÀEsquerda = x;
+    EXPECT_GT(maisÀEsquerda, quadro.left() - 100);
+    EXPECT_LT(maisÀEsquerda, quadro.left() - 20);
+}
+
+TEST_F(Grafico, a_legenda_de_pontos_mostra_um_e_deixa_inteiras_as_linhas_de_sua_cor) {
+    widget.setProperty("legenda", QStringList{"ADobs.=#ff0000:pontos"});
+    desenho.larguraTraco(2);
+    desenho.linha(80, 100, 300, 100, cores::vermelho);
+    widget.mostrar(desenho);
+    const auto imagem = widget.grab().toImage();
+    const QRect quadro = widget.quadroDosEixos();
+    int vermelhos = 0, largura = 0;
+    for (int y = 0; y < quadro.top(); ++y) {
+        int nesta = 0;
+        for (int x = 0; x < imagem.width(); ++x) nesta += imagem.pixelColor(x, y) == QColor(Qt::red);
+        vermelhos += nesta;
+        largura = std::max(largura, nesta);
+    }
+    // A filled circle, which is wide and high alike.
+    EXPECT_GT(vermelhos, 10);
+    EXPECT_LT(largura, 10);
+    const int y = static_cast<int>(widget.transformação().map(QPointF{100, 100}).y());
+    for (int x = quadro.left() + 40; x < quadro.left() + 200; ++x)
+        EXPECT_LT(imagem.pixelColor(x, y).green(), 130) << x;
 }
 
 TEST_F(Grafico, a_legenda_fica_acima_dos_eixos_com_a_cor_e_o_estilo_de_cada_curva) {

@@ -35,6 +35,37 @@ fechar Form7
 telas
 )";
 
+constexpr const char* percursoDaFaixa = R"(clicar Form3.TX15B
+clicar form1.Command3
+clicar Form7.Command2
+clicar Form7.Command3
+mostrar Form_grafVen
+telas
+clicar Form_grafVen.Command1
+clicar Form7.cmdUniformidade
+clicar Form4.Command8
+clicar Form4.Command9
+clicar Form4.Command5
+escolher Form5.Combo1 "Outro Valor"
+digitar Form5.txtOutro 20
+clicar Form5.chkParada
+foco
+digitar Form5.txtParada 10
+clicar Form5.Command10
+mover Form5.Picture2 200 100
+mostrar Form5
+clicar Form5.Command3
+mostrar Form8
+clicar Form5.Command12
+mover Form9.Picture2 200 100
+mostrar Form9
+clicar Form5.Command15
+mostrar Form_grafFinal
+telas
+clicar Form5.Command5
+telas
+)";
+
 /// What the same text prints without windows over it.
 std::string semJanelas(const char* texto) {
     std::ostringstream saída, erros;
@@ -53,13 +84,15 @@ class RoteiroNasJanelas : public ComJanelas {
 };
 
 TEST_F(RoteiroNasJanelas, imprime_o_mesmo_que_sem_elas) {
-    const auto arquivo = gravar(percurso);
-    testing::internal::CaptureStdout();
-    const int desfecho = executarNasJanelas(*janelas, arquivo, {});
-    const auto saída = testing::internal::GetCapturedStdout();
-    EXPECT_EQ(desfecho, 0);
-    EXPECT_EQ(saída, semJanelas(percurso));
-    EXPECT_TRUE(caixas.empty());
+    for (const auto* texto : {percurso, percursoDaFaixa}) {
+        const auto arquivo = gravar(texto);
+        testing::internal::CaptureStdout();
+        const int desfecho = executarNasJanelas(*janelas, arquivo, {});
+        const auto saída = testing::internal::GetCapturedStdout();
+        EXPECT_EQ(desfecho, 0);
+        EXPECT_EQ(saída, semJanelas(texto));
+        EXPECT_TRUE(caixas.empty());
+    }
 }
 
 TEST_F(RoteiroNasJanelas, salva_uma_imagem_a_cada_tela_mostrada) {
