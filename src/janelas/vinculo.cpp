@@ -128,7 +128,7 @@ struct Vinculo::Ligar {
             // It would finish the word that is being typed.
             caixa.setCompleter(nullptr);
             digitarEm(*caixa.lineEdit());
-            QObject::connect(caixa.lineEdit(), &QLineEdit::editingFinished, &v, [v = &v, nome = nome] {
+            QObject::connect(caixa.lineEdit(), &QLineEdit::returnPressed, &v, [v = &v, nome = nome] {
                 v->agir(nome, [](const Alvo&) { atos::confirmar(); });
             });
         }
@@ -405,6 +405,8 @@ std::optional<Elemento> Vinculo::controleDe(const QObject* objeto) const {
 void Vinculo::receberFoco(const QObject* objeto) {
     const auto elemento = controleDe(objeto);
     controleComFoco = elemento ? elemento->endereço() : nullptr;
+    // Leaving a list takes over what was typed into it.
+    if (atos::háTextoPorConfirmar()) janelas_.agir(atos::confirmar);
     const auto* const* grade = elemento ? std::get_if<Grade*>(&elemento->controle) : nullptr;
     if (!grade || !(*grade)->planilha) return;
     janelas_.agir([&] { varenta::receberFoco((*grade)->planilha()); });
