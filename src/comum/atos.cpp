@@ -66,10 +66,16 @@ Planilha exigirPlanilha(const Alvo& alvo, int linha, int coluna) {
     return grade.planilha();
 }
 
+/// Ends what a person left half done elsewhere. Moving the mouse is no leaving: a text may still be typed on.
+void deixarControle() {
+    confirmar();
+    soltar();
+}
+
 } // namespace
 
 void clicar(const Alvo& alvo) {
-    soltar();
+    deixarControle();
     const auto& controle = alvo.elemento.controle;
     if (std::holds_alternative<Opcao*>(controle)) {
         auto& opção = exigir<Opcao>(alvo, "clique");
@@ -91,7 +97,7 @@ void clicar(const Alvo& alvo) {
 }
 
 void escolher(const Alvo& alvo, std::string_view texto) {
-    soltar();
+    deixarControle();
     auto& lista = exigir<Lista>(alvo, "escolha");
     const int índice = índiceDoItem(lista, texto);
     if (índice < 0) throw AtoRecusado{alvo.nomeCompleto() + " não tem o item \"" + std::string{texto} + "\""};
@@ -100,7 +106,7 @@ void escolher(const Alvo& alvo, std::string_view texto) {
 }
 
 void digitar(const Alvo& alvo, std::string texto) {
-    if (!listaDigitada || listaDigitada->elemento.endereço() != alvo.elemento.endereço()) soltar();
+    if (!listaDigitada || listaDigitada->elemento.endereço() != alvo.elemento.endereço()) deixarControle();
     if (std::holds_alternative<Lista*>(alvo.elemento.controle)) {
         auto& lista = exigir<Lista>(alvo, "digitação");
         if (!lista.admiteDigitação) throw AtoRecusado{alvo.nomeCompleto() + " não admite digitação"};
@@ -115,7 +121,7 @@ void digitar(const Alvo& alvo, std::string texto) {
 }
 
 bool teclar(const Alvo& alvo, int tecla) {
-    soltar();
+    deixarControle();
     auto& caixa = exigir<CaixaTexto>(alvo, "digitação");
     focar(caixa);
     bool usada = false;
@@ -124,7 +130,7 @@ bool teclar(const Alvo& alvo, int tecla) {
 }
 
 void rolar(const Alvo& alvo, int valor) {
-    soltar();
+    deixarControle();
     auto& rolagem = exigir<Rolagem>(alvo, "rolagem");
     exigirValor(alvo, rolagem, valor);
     focar(rolagem);
@@ -132,7 +138,7 @@ void rolar(const Alvo& alvo, int valor) {
 }
 
 void arrastar(const Alvo& alvo, int valor) {
-    if (polegar && polegar->alvo.elemento.endereço() != alvo.elemento.endereço()) soltar();
+    if (!polegar || polegar->alvo.elemento.endereço() != alvo.elemento.endereço()) deixarControle();
     auto& rolagem = exigir<Rolagem>(alvo, "rolagem");
     exigirValor(alvo, rolagem, valor);
     focar(rolagem);
@@ -142,13 +148,14 @@ void arrastar(const Alvo& alvo, int valor) {
     if (rolagem.aoRolar) executarAto(rolagem.aoRolar);
 }
 
+bool háTextoPorConfirmar() { return listaDigitada.has_value(); }
+
 void confirmar() {
     const auto alvo = std::exchange(listaDigitada, std::nullopt);
     if (alvo && aindaExiste(*alvo)) executarAto(std::get<Lista*>(alvo->elemento.controle)->aoConfirmar);
 }
 
 void soltar() {
-    confirmar();
     if (!polegar) return;
     const auto solto = *std::exchange(polegar, std::nullopt);
     if (!aindaExiste(solto.alvo)) return;
@@ -157,7 +164,7 @@ void soltar() {
 }
 
 void irParaCélula(const Alvo& alvo, int linha, int coluna) {
-    soltar();
+    deixarControle();
     const auto planilha = exigirPlanilha(alvo, linha, coluna);
     executarAto([&] {
         varenta::irParaCélula(planilha, linha, coluna);
@@ -200,7 +207,7 @@ void pedirAjuda(TelaBase& tela) {
 }
 
 void fechar(TelaBase& tela) {
-    soltar();
+    deixarControle();
     exigirTela(tela);
     executarAto([&] {
         if (tela.eventos().aoFechar)

@@ -57,8 +57,12 @@ void clicar(const Alvo& alvo);
 /// Picks the item of a list with that text.
 void escolher(const Alvo& alvo, std::string_view texto);
 
-/// Replaces the text of a text box, or of a list that admits typing. The next act takes a list's text over.
+/// Replaces the text of a text box, or of a list that admits typing. The next act that leaves a
+/// list takes its text over.
 void digitar(const Alvo& alvo, std::string texto);
+
+/// Whether a list holds a typed text that was not taken over yet.
+bool háTextoPorConfirmar();
 
 /// Takes over what was typed into a list, as Enter and leaving the list do.
 void confirmar();
@@ -72,8 +76,7 @@ void rolar(const Alvo& alvo, int valor);
 /// Moves a scroll bar with the thumb held (Scroll). The next act lets it go.
 void arrastar(const Alvo& alvo, int valor);
 
-/// Ends what a person left half done: a thumb that `arrastar` moved is let go, with one Change if the bar
-/// ends elsewhere than it began, and what was typed into a list is taken over.
+/// Lets go of a thumb that `arrastar` moved: one Change if the bar ends elsewhere than it began.
 void soltar();
 
 /// Goes to a cell of a grid that takes entries.

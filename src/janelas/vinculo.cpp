@@ -128,11 +128,9 @@ struct Vinculo::Ligar {
             // It would finish the word that is being typed.
             caixa.setCompleter(nullptr);
             digitarEm(*caixa.lineEdit());
-            // Only once the focus has arrived where the person takes it: it would be taken back to here.
-            QObject::connect(
-                caixa.lineEdit(), &QLineEdit::editingFinished, &v,
-                [v = &v, nome = nome] { v->agir(nome, [](const Alvo&) { atos::confirmar(); }); },
-                Qt::QueuedConnection);
+            QObject::connect(caixa.lineEdit(), &QLineEdit::returnPressed, &v, [v = &v, nome = nome] {
+                v->agir(nome, [](const Alvo&) { atos::confirmar(); });
+            });
         }
         QObject::connect(&caixa, &QComboBox::activated, &v,
                          [v = &v, nome = nome, caixa = &caixa](int índice) {
@@ -409,6 +407,8 @@ std::optional<Elemento> Vinculo::controleDe(const QObject* objeto) const {
 void Vinculo::receberFoco(const QObject* objeto) {
     const auto elemento = controleDe(objeto);
     controleComFoco = elemento ? elemento->endereço() : nullptr;
+    // Leaving a list takes over what was typed into it.
+    if (atos::háTextoPorConfirmar()) janelas_.agir(atos::confirmar);
     const auto* const* grade = elemento ? std::get_if<Grade*>(&elemento->controle) : nullptr;
     if (!grade || !(*grade)->planilha) return;
     janelas_.agir([&] { varenta::receberFoco((*grade)->planilha()); });

@@ -93,6 +93,8 @@ TEST_F(EnsaioDeCampo, OTextoDeUmaListaValeAoSair) {
     digitar(formEC, "Combo1", "1");
     digitar(formEC, "Combo1", "12");
     EXPECT_EQ(formEC->flex_A.colunas, 3) << "nothing yet, while it is typed";
+    atos::moverMouse(formEC);
+    EXPECT_EQ(formEC->flex_A.colunas, 3) << "nor for a move of the mouse";
     digitar(formEC, "Text6", "A");
     EXPECT_EQ(formEC->flex_A.colunas, 13);
     EXPECT_EQ(célula(0, 12), "Linha 12 - I(mm)");
@@ -100,8 +102,12 @@ TEST_F(EnsaioDeCampo, OTextoDeUmaListaValeAoSair) {
 
 TEST_F(EnsaioDeCampo, OTextoDeUmaListaValeComEnter) {
     digitar(formEC, "Combo3", "1");
+    EXPECT_TRUE(atos::háTextoPorConfirmar());
     atos::confirmar();
+    EXPECT_FALSE(atos::háTextoPorConfirmar());
     EXPECT_EQ(formEC->flex_A.linhas, 3);
+    digitar(formEC, "Text6", "A");
+    EXPECT_FALSE(atos::háTextoPorConfirmar());
 }
 
 TEST_F(EnsaioDeCampo, OQueSeDigitavaNumaTelaQueSeFoiNãoVale) {
