@@ -247,6 +247,8 @@ struct Vinculo::Mostrar {
         const auto texto = qtexto(r.texto);
         if (opção.text() != texto) opção.setText(texto);
         mostrarMarca(opção, r.marcada);
+        // Left alone, Tab goes to the option of its group that had the focus last.
+        opção.setFocusPolicy(r.marcada ? Qt::StrongFocus : Qt::ClickFocus);
         mostrarEstado(opção, r.visivel, r.habilitado);
     }
 
