@@ -193,7 +193,7 @@ TEST_F(JanelasDoAjuste, enquanto_ajustam_a_barra_anda_e_a_janela_se_pinta) {
         },
         [&] { clicar(form_AjVen, "Command5"); });
     // A hundred quarters of the simplex, each a step of the widget.
-    EXPECT_GT(valores.size(), 100u);
+    ASSERT_GT(valores.size(), 100u);
     constexpr int quartos = 4;
     EXPECT_LT(valores.front(), 5 * quartos);
     EXPECT_EQ(valores.back(), 56 * quartos);
@@ -228,7 +228,7 @@ TEST_F(JanelasDoAjuste, enquanto_ajustam_nada_mais_começa_nem_espera_sua_vez) {
             clicar(form_AjVen, "Command5");
             clicar(form_AjVen, "Option6");
             clicar(form_E1, "Command2");
-            clicar(form_E1, "Combo2");
+            clicar(form_AjVen, "Combo1");
             QTest::keyClicks(&widget(form_E1, "Text5"), "7");
             QTest::keyClick(&janela(form_AjVen), Qt::Key_F, Qt::AltModifier);
         },
