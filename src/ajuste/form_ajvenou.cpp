@@ -10,6 +10,8 @@ namespace varenta {
 void form_AjvenOu_Load() {
     associarAjuda();
     ligarControlesDeAjuste<Aspersor::outro>();
+    // Nothing is saved for such a sprinkler; the button's tooltip says so.
+    form_AjvenOu->Command7.aoClicar = [] {};
     form_AjvenOu->Command2.aoClicar = mostrarAjuda<topicos::form_AjvenOu>;
 }
 

@@ -1,5 +1,6 @@
 #include "ajuste/verificacoes_ensaio.h"
 
+#include "ajuste/arquivo_ensaio.h"
 #include "comum/numeros.h"
 #include "comum/operacoes.h"
 #include "comum/plataforma.h"
@@ -55,8 +56,18 @@ Recusa recusaDoTempoOuDiâmetro(std::initializer_list<CaixaTexto*> caixas) {
                            "Valor numérico de tempo ou diâmetro do coletor inválido!");
 }
 
-/// Before saving: the numbers of the grid and its spacings. What the lists offer passes always.
-Recusa recusaDasListas(std::initializer_list<const Lista*> listas) {
+/// Before saving: what a reader of the file would refuse as a number of collectors or lines.
+Recusa recusaDasContagens(std::initializer_list<const Lista*> listas) {
+    for (const auto* lista : listas) {
+        if (!éNumérico(lista->texto)) return RecusaDeEnsaio{valorInválido};
+        const double x = lerEstrito(lista->texto);
+        if (x < 1 || x > maiorContagem || x != Int(x)) return RecusaDeEnsaio{valorInválido};
+    }
+    return std::nullopt;
+}
+
+/// Before saving: the spacings of the grid. What the lists offer passes always.
+Recusa recusaDosEspaçamentos(std::initializer_list<const Lista*> listas) {
     for (const auto* lista : listas)
         if (!éNumérico(lista->texto) || nãoÉPositivo(lista->texto)) return RecusaDeEnsaio{valorInválido};
     return std::nullopt;
@@ -114,7 +125,8 @@ Recusa recusaDoSalvamento(RegistroFormE& f, int) {
         recusa =
             recusaDasCaixas({&f.Text6}, "Insira um valor numérico de tempo!", "Valor numérico inválido!");
     if (f.Option3.marcada) recusa = recusaDoTempoOuDiâmetro({&f.Text6, &f.Text7});
-    if (!recusa) recusa = recusaDasListas({&f.Combo2, &f.Combo1});
+    if (!recusa) recusa = recusaDasContagens({&f.Combo2});
+    if (!recusa) recusa = recusaDosEspaçamentos({&f.Combo1});
     if (recusa) return recusa;
     const int N = inteiroDaLista(f.Combo2);
     return recusaDasCélulas(f.flex_A, N, N, aoSalvar);
@@ -123,7 +135,8 @@ Recusa recusaDoSalvamento(RegistroFormE& f, int) {
 Recusa recusaDoSalvamento(RegistroFormMiE& f, int n) {
     Recusa recusa;
     if (f.Option3.marcada) recusa = recusaDoTempoOuDiâmetro({&f.Text7});
-    if (!recusa) recusa = recusaDasListas({&f.Combo1, &f.Combo2, &f.Combo3, &f.Combo4});
+    if (!recusa) recusa = recusaDasContagens({&f.Combo1, &f.Combo3});
+    if (!recusa) recusa = recusaDosEspaçamentos({&f.Combo2, &f.Combo4});
     if (!recusa)
         recusa = recusaDasCélulas(f.flex_A, 2 * inteiroDaLista(f.Combo3), inteiroDaLista(f.Combo1), aoSalvar);
     if (!recusa && !éNumérico(f.Text1.texto)) recusa = RecusaDeEnsaio{doEnsaio(velocidadeInválida, n)};

@@ -48,9 +48,12 @@ TEST(FormAjvenOu, CadaMétodoEscondeOsBotõesDoOutro) {
 
 TEST(FormAjvenOu, SalvarParâmetrosNãoTemOperação) {
     abrirFormAjvenOu(Método::malha);
-    form_AjvenOu->Command7.habilitado = true;
     EXPECT_EQ(recusaDe([] { atos::clicar(alvo(form_AjvenOu, "Command7")); }),
               "Form_AjvenOu.Command7 está desabilitado");
+    form_AjvenOu->Command7.habilitado = true; // as a fit leaves it
+    caderno.clear();
+    atos::clicar(alvo(form_AjvenOu, "Command7"));
+    EXPECT_EQ(caderno, Textos{});
 }
 
 TEST(FormAjvenOu, OsEnsaiosMostramOAspersorEOsSeusBotões) {
@@ -167,6 +170,20 @@ TEST(FormAjvenOu, FecharFechaTambémAsTelasQueAbriu) {
     EXPECT_FALSE(form_AjvenOu.carregada());
     EXPECT_FALSE(form_E1.carregada());
     EXPECT_TRUE(form3.visivel);
+}
+
+TEST(FormAjvenOu, UmaContagemQueOArquivoNãoAdmiteNãoÉSalva) {
+    for (const auto& texto : Textos{"0.4", "6.4", "0", "-2", "1001", "abc", ""}) {
+        abrirFormAjvenOu(Método::malha);
+        malhaDeQuatro(1, {"1", "2", "3", "4"});
+        form_E1.mostrar();
+        form_E1->Command6.visivel = true;
+        form_E1->Combo2.texto = texto;
+        caderno.clear();
+        atos::clicar(alvo(form_E1, "Command6"));
+        ASSERT_FALSE(caderno.empty()) << texto;
+        EXPECT_EQ(caderno.front(), "mensagem: Valor inválido!") << texto;
+    }
 }
 
 } // namespace

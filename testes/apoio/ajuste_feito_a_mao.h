@@ -45,7 +45,7 @@ inline void preencher(Grade& grade, std::initializer_list<const char*> textos) {
 /// The grid test `n`: 2 x 2 collectors every 6 m, at (3, 3) and so on, without wind.
 inline void malhaDeQuatro(int n, std::initializer_list<const char*> leituras) {
     auto& f = *form_E(n).operator->();
-    f.Combo2.texto = "2";
+    f.Combo2.texto = std::string("2");
     Erro_plan(n);
     definirValor(f.HScroll2, 0);
     preencher(f.flex_A, leituras);
@@ -55,11 +55,11 @@ inline void malhaDeQuatro(int n, std::initializer_list<const char*> leituras) {
 /// wind.
 inline void móvelDeDois(int n, std::initializer_list<const char*> leituras) {
     auto& f = *form_MiE(n).operator->();
-    f.Combo1.texto = "1";
-    f.Combo3.texto = "1";
-    f.Combo4.texto = "6.0";
-    f.Combo6.texto = "360";
-    f.Text1.texto = "60";
+    f.Combo1.texto = std::string("1");
+    f.Combo3.texto = std::string("1");
+    f.Combo4.texto = std::string("6.0");
+    f.Combo6.texto = std::string("360");
+    f.Text1.texto = std::string("60");
     MIErro_plan(n);
     definirValor(f.HScroll2, 0);
     preencher(f.flex_A, leituras);
