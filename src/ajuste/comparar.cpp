@@ -92,12 +92,7 @@ void desenharProfundidades(RegistroFormMIgraf& f, const EnsaioMóvel& ensaio,
         return eixos.lugar(lugarAscendente(ensaio.e, ensaio.N, static_cast<int>(j)), valores[j]);
     };
     desenharCurva(f.Picture1, cores::azul, N, [&](std::size_t j) { return lugar(lâminas, j); });
-    f.Picture1.estiloPreenchimento(EstiloPreenchimento::sólido);
-    for (std::size_t j = 0; j < N; ++j) {
-        const auto [x, y] = lugar(ensaio.observados, j);
-        f.Picture1.arco(x, y, 2, cores::vermelho);
-    }
-    f.Picture1.estiloPreenchimento(EstiloPreenchimento::transparente);
+    for (std::size_t j = 0; j < N; ++j) marcarPonto(f.Picture1, lugar(ensaio.observados, j));
 }
 
 /// The field of intensities row by row from ahead to behind, where the points of a test come position by

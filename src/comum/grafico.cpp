@@ -45,6 +45,23 @@ void desenharCurva(Desenho& desenho, Cor cor, std::size_t quantos,
     }
 }
 
+void marcarPonto(Desenho& desenho, PontoDoDesenho lugar) {
+    desenho.estiloPreenchimento(EstiloPreenchimento::sólido);
+    desenho.arco(lugar.x, lugar.y, 2, cores::vermelho);
+    desenho.estiloPreenchimento(EstiloPreenchimento::transparente);
+}
+
+double lerNoEixo(std::span<const Rotulo> escala, double percorrido, double extensão) {
+    const double início = lerPrefixo(escala.front().texto), fim = lerPrefixo(escala.back().texto);
+    return início + (fim - início) * percorrido / extensão;
+}
+
+Ponteiro apagarLeitura(Rotulo& x, Rotulo& y) {
+    x.texto.clear();
+    y.texto.clear();
+    return Ponteiro::padrão;
+}
+
 double escreverEscala(std::span<Rotulo> rótulos, double origem, double passo, std::string_view padrão) {
     for (std::size_t k = 0; k < rótulos.size(); ++k)
         rótulos[k].texto = Format(origem + passo * static_cast<double>(k), padrão);

@@ -43,6 +43,16 @@ struct PontoDoDesenho {
 void desenharCurva(Desenho& desenho, Cor cor, std::size_t quantos,
                    const std::function<PontoDoDesenho(std::size_t)>& ponto);
 
+/// Marks a place with a small filled red circle.
+void marcarPonto(Desenho& desenho, PontoDoDesenho lugar);
+
+/// The value at `percorrido` of `extensão` along an axis, from its first and its last tick caption as they
+/// read.
+double lerNoEixo(std::span<const Rotulo> escala, double percorrido, double extensão);
+
+/// The mouse is beside the chart: blanks both captions of its read-out. Returns the pointer to show.
+Ponteiro apagarLeitura(Rotulo& x, Rotulo& y);
+
 /// Writes tick captions: `origem` + `passo` x k for k from 0, in the format `padrão`. Returns the last
 /// caption's number as it reads, which is the end of the axis.
 double escreverEscala(std::span<Rotulo> rótulos, double origem, double passo, std::string_view padrão);

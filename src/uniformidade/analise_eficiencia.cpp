@@ -83,16 +83,6 @@ EixoDeLâminas escreverEixo(std::span<Rotulo> rótulos, std::span<const LâminaR
     return {início, escreverEscala(rótulos, início, passo, "0.0")};
 }
 
-void desenharPontos(Desenho& desenho, std::span<const LâminaRequerida> mostradas,
-                    const std::function<PontoDoDesenho(const LâminaRequerida&)>& lugar) {
-    desenho.estiloPreenchimento(EstiloPreenchimento::sólido);
-    for (const auto& lâmina : mostradas) {
-        const auto [x, y] = lugar(lâmina);
-        desenho.arco(x, y, 2, cores::vermelho);
-    }
-    desenho.estiloPreenchimento(EstiloPreenchimento::transparente);
-}
-
 void desenharÁreas(std::span<const LâminaRequerida> mostradas) {
     constexpr auto& malha = malhaDaÁrea;
     auto& desenho = form9->Picture1;
@@ -105,8 +95,7 @@ void desenharÁreas(std::span<const LâminaRequerida> mostradas) {
     };
     desenharCurva(desenho, cores::azul, mostradas.size(),
                   [&](std::size_t r) { return lugar(mostradas[r].ADest, mostradas[r].Ir); });
-    desenharPontos(desenho, mostradas,
-                   [&](const LâminaRequerida& lâmina) { return lugar(lâmina.ADobs / 100, lâmina.Ir); });
+    for (const auto& lâmina : mostradas) marcarPonto(desenho, lugar(lâmina.ADobs / 100, lâmina.Ir));
 }
 
 void desenharEficiências(std::span<const LâminaRequerida> mostradas) {
@@ -121,7 +110,7 @@ void desenharEficiências(std::span<const LâminaRequerida> mostradas) {
                                   malha.base - malha.altura() * (lâmina.*eficiência) / 100};
         };
         desenharCurva(desenho, cor, mostradas.size(), [&](std::size_t r) { return lugar(mostradas[r]); });
-        desenharPontos(desenho, mostradas, lugar);
+        for (const auto& lâmina : mostradas) marcarPonto(desenho, lugar(lâmina));
     };
     curva(&LâminaRequerida::aplicação, cores::azul);
     curva(&LâminaRequerida::armazenamento, cores::verde);

@@ -46,8 +46,7 @@ void form4_Command7_Click() {
 
 void form4_Command8_Click() {
     calcularMaiorCUC();
-    auto& lista = form4->cmbEspaçamento;
-    escolherItem(lista, static_cast<int>((lista.itens.size() + 1) / 2));
+    escolherEspaçamentoDoMeio();
     form4->Command8.habilitado = false;
     form4->Command9.habilitado = true;
     form4->cmdSalvar.habilitado = true;

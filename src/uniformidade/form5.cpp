@@ -126,17 +126,13 @@ void form5_Picture2_MouseMove(double x, double y) {
     constexpr auto& malha = malhaDaFaixa;
     auto& f = *form5.operator->();
     if (!malha.contém(x, y)) {
-        form5.ponteiro = Ponteiro::padrão;
-        f.lblEf.texto.clear();
-        f.lblI.texto.clear();
+        form5.ponteiro = apagarLeitura(f.lblEf, f.lblI);
         return;
     }
     form5.ponteiro = Ponteiro::cruz;
-    const double de = lerPrefixo(f.Label33.front().texto), até = lerPrefixo(f.Label33.back().texto);
-    const double Ef = de + (até - de) * (x - malha.esquerda) / malha.largura();
-    const double I = lerPrefixo(f.Label34.back().texto) * (malha.base - y) / malha.altura();
-    f.lblEf.texto = "Ef = " + Format(Ef, "0.000") + " m";
-    f.lblI.texto = "I = " + Format(I, "0.000") + " mm";
+    f.lblEf.texto =
+        "Ef = " + Format(lerNoEixo(f.Label33, x - malha.esquerda, malha.largura()), "0.000") + " m";
+    f.lblI.texto = "I = " + Format(lerNoEixo(f.Label34, malha.base - y, malha.altura()), "0.000") + " mm";
 }
 
 } // namespace varenta

@@ -55,7 +55,7 @@ void abrirForm4(const FonteDoAspersor& fonte) {
     prepararGráfico(f.Picture1, malhaDaSobreposição);
     prepararGráfico(f.Picture2, malhaDosEspaçamentos);
     f.cmbEspaçamento.itens = espaçamentosParaRaio(lerPrefixo(fonte.raio.texto));
-    escolherItem(f.cmbEspaçamento, static_cast<int>((f.cmbEspaçamento.itens.size() + 1) / 2));
+    escolherEspaçamentoDoMeio();
     f.Label1.texto = form7->Label18.texto;
     f.Label2.texto = form7->Label19.texto;
     f.Label3.texto = "Ângulo: " + form7->Label35.texto + " graus";

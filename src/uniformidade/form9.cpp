@@ -19,15 +19,11 @@ void form9_Picture1_MouseMove(double x, double y) {
     constexpr auto& malha = malhaDaÁrea;
     auto& f = *form9.operator->();
     if (!malha.contém(x, y)) {
-        form9.ponteiro = Ponteiro::padrão;
-        f.lblIr1.texto.clear();
-        f.lblAD.texto.clear();
+        form9.ponteiro = apagarLeitura(f.lblIr1, f.lblAD);
         return;
     }
     form9.ponteiro = Ponteiro::cruz;
-    const double de = lerPrefixo(f.Label26.front().texto), até = lerPrefixo(f.Label26.back().texto);
-    const double Ir = de + (até - de) * (malha.base - y) / malha.altura();
-    f.lblIr1.texto = "Ir = " + Format(Ir, "0.000") + " mm";
+    f.lblIr1.texto = "Ir = " + Format(lerNoEixo(f.Label26, malha.base - y, malha.altura()), "0.000") + " mm";
     f.lblAD.texto = "ADobs. e ADest. = " + Format((x - malha.esquerda) / malha.largura(), "0.000");
 }
 
@@ -35,15 +31,12 @@ void form9_Picture2_MouseMove(double x, double y) {
     constexpr auto& malha = malhaDasEficiências;
     auto& f = *form9.operator->();
     if (!malha.contém(x, y)) {
-        form9.ponteiro = Ponteiro::padrão;
-        f.lblIr2.texto.clear();
-        f.lblEf.texto.clear();
+        form9.ponteiro = apagarLeitura(f.lblIr2, f.lblEf);
         return;
     }
     form9.ponteiro = Ponteiro::cruz;
-    const double de = lerPrefixo(f.Label27.front().texto), até = lerPrefixo(f.Label27.back().texto);
-    const double Ir = de + (até - de) * (x - malha.esquerda) / malha.largura();
-    f.lblIr2.texto = "Ir = " + Format(Ir, "0.000") + " mm";
+    f.lblIr2.texto =
+        "Ir = " + Format(lerNoEixo(f.Label27, x - malha.esquerda, malha.largura()), "0.000") + " mm";
     f.lblEf.texto =
         "Ef. Apl. ou Ef. Arm. = " + Format(100 * (malha.base - y) / malha.altura(), "0.000") + " %";
 }

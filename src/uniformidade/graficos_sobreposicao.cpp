@@ -27,19 +27,8 @@ void desenharPorcentagem(Desenho& desenho, const std::vector<PontoDoEspaçamento
             desenho.linha(de.x, de.y, até.x, até.y, cor);
         }
     }
-    desenho.estiloPreenchimento(EstiloPreenchimento::sólido);
     for (const auto& ponto : pontos)
-        if (ponto.valores.*valor >= menor) {
-            const auto [x, y] = lugar(ponto);
-            desenho.arco(x, y, 2, cores::vermelho);
-        }
-    desenho.estiloPreenchimento(EstiloPreenchimento::transparente);
-}
-
-Ponteiro apagar(const LeituraDeGráfico& leitura) {
-    leitura.x.texto.clear();
-    leitura.y.texto.clear();
-    return Ponteiro::padrão;
+        if (ponto.valores.*valor >= menor) marcarPonto(desenho, lugar(ponto));
 }
 
 /// The value at x on an axis that ends in the last tick's.
@@ -88,7 +77,7 @@ void desenharSobreposição(Desenho& Picture1, std::span<Rotulo> Label22, std::s
 
 Ponteiro lerSobreposição(const LeituraDeGráfico& leitura, double x, double y) {
     constexpr auto& malha = malhaDaSobreposição;
-    if (!malha.contém(x, y)) return apagar(leitura);
+    if (!malha.contém(x, y)) return apagarLeitura(leitura.x, leitura.y);
     const double i = lerPrefixo(leitura.fimDeY.texto) * (malha.base - y) / malha.altura();
     leitura.x.texto = "d = " + Format(naEscala(malha, leitura.fimDeX, x), "0.000") + " m";
     leitura.y.texto = "I = " + Format(i, "0.000") + " mm";
@@ -97,7 +86,7 @@ Ponteiro lerSobreposição(const LeituraDeGráfico& leitura, double x, double y)
 
 Ponteiro lerEspaçamentos(const LeituraDeGráfico& leitura, double x, double y) {
     constexpr auto& malha = malhaDosEspaçamentos;
-    if (!malha.contém(x, y)) return apagar(leitura);
+    if (!malha.contém(x, y)) return apagarLeitura(leitura.x, leitura.y);
     const double UD = 10 + 90 * (malha.base - y) / malha.altura();
     leitura.x.texto = "E = " + Format(naEscala(malha, leitura.fimDeX, x), "0.000") + " m";
     leitura.y.texto = "UD = " + Format(UD, "0.000") + " %";

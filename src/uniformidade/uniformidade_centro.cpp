@@ -48,6 +48,11 @@ std::vector<std::string> espaçamentosParaRaio(double R) {
     return textos;
 }
 
+void escolherEspaçamentoDoMeio() {
+    auto& lista = form4->cmbEspaçamento;
+    escolherItem(lista, static_cast<int>((lista.itens.size() + 1) / 2));
+}
+
 void calcularMaiorCUC() {
     const auto perfil = lerPerfil();
     auto& f = *form4.operator->();

@@ -9,6 +9,9 @@ namespace varenta {
 /// up to and including 2 x R.
 std::vector<std::string> espaçamentosParaRaio(double R);
 
+/// Picks the spacing in the middle of `Form4`'s list, the later of two.
+void escolherEspaçamentoDoMeio();
+
 /// Fills `Form4`'s table with `CUC`, `UD` and mean depth at every spacing of the list, which it selects one
 /// after another, tells the best, and draws the chart. Raises as the statistics do; a spacing with fewer than
 /// two positions takes the lowest quarter's count from the spacing before it.
