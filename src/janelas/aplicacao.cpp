@@ -44,6 +44,8 @@ Aplicacao::Aplicacao(int& argc, char** argv) : QApplication{argc, argv} {
     std::setlocale(LC_NUMERIC, "C");
     carregarRecursos();
     setApplicationName(QStringLiteral("Varenta"));
+    // What ties the windows to the desktop entry, and so to its icon, where there are no icons of windows.
+    setDesktopFileName(QStringLiteral("varenta"));
     setWindowIcon(QIcon{QStringLiteral(":/imagens/varenta.svg")});
     setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
     setPalette(paletaClara());

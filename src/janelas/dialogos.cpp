@@ -72,14 +72,12 @@ class EntradasDescartadas : public QObject {
     }
 };
 
-/// Lets the windows paint themselves. What the person did since the last time is not kept for later: nothing
-/// else can be started while a long run is at work, nor once it is over by a click that waited.
+} // namespace
+
 void pintarSemOuvir() {
     const EntradasDescartadas agora;
     QCoreApplication::processEvents();
 }
-
-} // namespace
 
 Dialogos dialogosDoQt() {
     return {

@@ -1,19 +1,24 @@
 #include "janelas/roteiro_janelas.h"
 
+#include "comum/plataforma.h"
+#include "janelas/dialogos.h"
 #include "roteiro/interprete.h"
+#include "shell/form3.h"
+#include "shell/sistema.h"
 
-#include <QCoreApplication>
 #include <QDir>
+#include <QFileInfo>
 #include <QPixmap>
 
 #include <iostream>
+#include <sstream>
 
 namespace {
 
 /// The windows as they stand, before the next command.
 void deixarPintar(Janelas& janelas) {
     janelas.atualizar();
-    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+    varenta::pintarSemOuvir();
 }
 
 void salvarImagem(QWidget* janela, const QString& caminho) {
@@ -42,4 +47,19 @@ int executarNasJanelas(Janelas& janelas, const QString& roteiro, const QString& 
         };
     if (roteiro == QLatin1String{"-"}) return intérprete.executarFluxo(std::cin);
     return intérprete.executarArquivo(roteiro.toStdString());
+}
+
+bool abrirNasJanelas(Janelas& janelas, const QString& roteiro) {
+    varenta::iniciarSistema();
+    janelas.atualizar();
+    const auto pergunta =
+        QStringLiteral("Executar o roteiro \"%1\"? Ele pode salvar arquivos e substituir os que já existem.");
+    if (!varenta::plataforma::perguntar(pergunta.arg(QFileInfo{roteiro}.fileName()).toStdString()))
+        return true;
+    std::ostringstream erros;
+    varenta::Interprete intérprete{std::cout, erros};
+    intérprete.depoisDeCadaComando = [&] { deixarPintar(janelas); };
+    intérprete.executarArquivo(roteiro.toStdString());
+    if (const auto texto = erros.str(); !texto.empty()) varenta::plataforma::mensagem(texto);
+    return varenta::form3.carregada();
 }

@@ -10,20 +10,35 @@ namespace {
 
 constexpr int usoErrado = 2;
 
+constexpr const char* uso = "uso: varenta-roteiro [--progresso] ARQUIVO…\n"
+                            "Executa cada roteiro contra o sistema recém-iniciado; - é a entrada padrão.\n"
+                            "\n"
+                            "  --progresso  imprime também os passos dos ajustes\n"
+                            "  --help       mostra esta ajuda e termina\n"
+                            "  --version    mostra a versão e termina\n";
+
 bool éOpção(const std::string& argumento) { return argumento.starts_with('-') && argumento != "-"; }
 
 } // namespace
 
 int executarLinhaDeComando(const std::vector<std::string>& argumentos, std::istream& entrada,
                            std::ostream& saída, std::ostream& erros) {
+    const auto tem = [&](std::string_view opção) { return std::ranges::count(argumentos, opção) > 0; };
+    if (tem("--help")) {
+        saída << uso;
+        return saída.flush() ? Interprete::concluído : Interprete::falha;
+    }
+    if (tem("--version")) {
+        saída << "varenta-roteiro " VARENTA_VERSAO "\n";
+        return saída.flush() ? Interprete::concluído : Interprete::falha;
+    }
     constexpr std::string_view opçãoDeProgresso = "--progresso";
     std::vector<std::string> arquivos;
     std::ranges::remove_copy_if(argumentos, std::back_inserter(arquivos), éOpção);
     const bool opçõesConhecidas = std::ranges::all_of(
         argumentos, [](const std::string& a) { return !éOpção(a) || a == opçãoDeProgresso; });
     if (arquivos.empty() || !opçõesConhecidas) {
-        erros << "uso: varenta-roteiro [--progresso] ARQUIVO…\n"
-                 "Executa cada roteiro contra o sistema recém-iniciado; - é a entrada padrão.\n";
+        erros << uso;
         return usoErrado;
     }
 

@@ -8,6 +8,7 @@
 #include <QLabel>
 #include <QProcess>
 #include <QTemporaryDir>
+#include <QTimer>
 
 #include <fstream>
 #include <sstream>
@@ -114,6 +115,51 @@ TEST_F(RoteiroNasJanelas, deixa_as_janelas_como_o_último_comando) {
     EXPECT_EQ(widget<QLabel>(form1, "lblPressão").text(), "35");
 }
 
+TEST_F(RoteiroNasJanelas, aberto_por_uma_pessoa_pergunta_antes_e_fica_onde_parou) {
+    const auto arquivo = gravar("clicar Form3.TX15B\nrolar form1.hsbPressão 35\n");
+    respostas = {true};
+    EXPECT_TRUE(abrirNasJanelas(*janelas, arquivo));
+    EXPECT_EQ(caixas, std::vector<QString>{"Executar o roteiro \"caso.roteiro\"? Ele pode salvar arquivos e "
+                                           "substituir os que já existem."});
+    EXPECT_TRUE(janela(form1).isVisible());
+    EXPECT_EQ(widget<QLabel>(form1, "lblPressão").text(), "35");
+}
+
+TEST_F(RoteiroNasJanelas, aberto_mas_não_executado_deixa_a_janela_principal) {
+    respostas = {false};
+    EXPECT_TRUE(abrirNasJanelas(*janelas, gravar("clicar Form3.TX15B\n")));
+    EXPECT_TRUE(janela(form3).isVisible());
+    EXPECT_FALSE(form1.carregada());
+}
+
+TEST_F(RoteiroNasJanelas, aberto_mostra_em_uma_caixa_o_que_deu_errado) {
+    const auto arquivo = gravar("clicar Form3.TX15B\nfazer\n");
+    respostas = {true, true};
+    EXPECT_TRUE(abrirNasJanelas(*janelas, arquivo));
+    ASSERT_EQ(caixas.size(), 2u);
+    EXPECT_EQ(caixas[1], arquivo + ":2: comando desconhecido: fazer\n");
+    EXPECT_TRUE(janela(form1).isVisible());
+
+    EXPECT_TRUE(abrirNasJanelas(*janelas, pasta.filePath("ausente.roteiro")));
+    ASSERT_EQ(caixas.size(), 4u);
+    EXPECT_EQ(caixas[3], pasta.filePath("ausente.roteiro") + ": o arquivo ou a pasta não existe\n");
+    EXPECT_TRUE(janela(form3).isVisible());
+}
+
+TEST_F(RoteiroNasJanelas, aberto_que_fecha_a_janela_principal_encerra_o_programa) {
+    respostas = {true};
+    EXPECT_FALSE(abrirNasJanelas(*janelas, gravar("fechar Form3\n")));
+    EXPECT_EQ(caixas.size(), 1u);
+}
+
+TEST_F(RoteiroNasJanelas, o_que_a_pessoa_faz_enquanto_ele_corre_se_perde) {
+    QTimer::singleShot(0, [this] { clicar(form1, "Command3"); });
+    respostas = {true};
+    EXPECT_TRUE(abrirNasJanelas(*janelas, gravar("clicar Form3.TX15B\nfoco\n")));
+    QApplication::processEvents();
+    EXPECT_FALSE(form7.carregada());
+}
+
 struct Término {
     int código;
     QString saída, erros;
@@ -129,12 +175,20 @@ Término varenta(const QStringList& argumentos) {
 
 TEST(Programa, com_opção_desconhecida_mostra_o_uso) {
     for (const auto& argumentos :
-         {QStringList{"--outra"}, {"arquivo.roteiro"}, {"--roteiro"}, {"--imagens", "pasta"}}) {
+         {QStringList{"--outra"}, {"a.roteiro", "b.roteiro"}, {"--roteiro"}, {"--imagens", "pasta"}}) {
         const auto término = varenta(argumentos);
         EXPECT_EQ(término.código, 2);
-        EXPECT_TRUE(término.erros.contains("Uso: varenta [--roteiro ARQUIVO [--imagens PASTA]]"));
+        EXPECT_TRUE(término.erros.contains("Uso: varenta [ARQUIVO]\n"));
         EXPECT_EQ(término.saída, "");
     }
+}
+
+TEST(Programa, ajuda_e_versão_nada_abrem) {
+    const auto ajuda = varenta({"--help"});
+    EXPECT_EQ(ajuda.código, 0);
+    EXPECT_TRUE(ajuda.saída.startsWith("Uso: varenta [ARQUIVO]\n"));
+    EXPECT_EQ(ajuda.erros, "");
+    EXPECT_EQ(varenta({"--version"}).saída, "varenta 5.0\n");
 }
 
 TEST(Programa, com_roteiro_termina_com_o_desfecho_dele) {

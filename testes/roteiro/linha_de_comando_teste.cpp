@@ -33,6 +33,17 @@ TEST(LinhaDeComando, SemArquivoOuComOpçãoDesconhecidaMostraOUso) {
     }
 }
 
+TEST(LinhaDeComando, AjudaEVersãoNadaExecutam) {
+    const auto ajuda = chamar({"--help", "-"}, "telas\n");
+    EXPECT_EQ(ajuda.estado, 0);
+    EXPECT_TRUE(ajuda.saída.starts_with("uso: varenta-roteiro [--progresso] ARQUIVO…\n")) << ajuda.saída;
+    EXPECT_EQ(ajuda.saída.find("Form3"), std::string::npos);
+    EXPECT_EQ(ajuda.erros, "");
+    const auto versão = chamar({"--progresso", "--version"});
+    EXPECT_EQ(versão.estado, 0);
+    EXPECT_EQ(versão.saída, "varenta-roteiro 5.0\n"); // the version that the program tells in its window too
+}
+
 TEST(LinhaDeComando, TraçoÉAEntradaPadrão) {
     const auto r = chamar({"-"}, "telas\n");
     EXPECT_EQ(r.estado, 0);
