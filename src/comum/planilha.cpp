@@ -119,8 +119,11 @@ void colar(const Planilha& planilha, const Bloco& bloco) {
         return;
     }
     const int linha = grade.linhaAtual, coluna = grade.colunaAtual;
+    // The screen hears of all cells at once, with the last one: it looks at its whole grid each time.
+    auto semAviso = planilha;
+    semAviso.aoMudar = nullptr;
     for (const auto& célula : lugaresDe(bloco, grade)) {
-        irParaCélula(planilha, célula.linha, célula.coluna);
+        irParaCélula(semAviso, célula.linha, célula.coluna);
         definirTexto(planilha.entrada, célula.texto);
     }
     irParaCélula(planilha, linha, coluna);

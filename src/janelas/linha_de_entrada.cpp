@@ -71,10 +71,11 @@ bool LinhaDeEntrada::todaSelecionada() const { return linha_.selectedText() == l
 void LinhaDeEntrada::mostrarMenu(const QPoint& lugar) {
     auto* menu = linha_.createStandardContextMenu();
     menu->setAttribute(Qt::WA_DeleteOnClose);
-    // Qt's own actions are known by these names.
-    if (auto* colar = menu->findChild<QAction*>(QStringLiteral("edit-paste"))) {
-        colar->disconnect(&linha_);
-        connect(colar, &QAction::triggered, this, [this] {
+    // Qt's own actions are known by their texts alone.
+    for (auto* ação : menu->actions()) {
+        if (!ação->text().startsWith(QLineEdit::tr("&Paste"))) continue;
+        ação->disconnect(&linha_);
+        connect(ação, &QAction::triggered, this, [this] {
             if (!colarBloco()) linha_.paste();
         });
     }

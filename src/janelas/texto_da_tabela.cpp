@@ -13,6 +13,9 @@ namespace {
 
 std::string textoDe(const QVariant& valor) { return valor.toString().toStdString(); }
 
+/// Without the blanks that only widen a column on the screen.
+std::string cabeçalhoDe(const QVariant& valor) { return valor.toString().trimmed().toStdString(); }
+
 /// The cells of one row, or of the header.
 class Montador {
   public:
@@ -28,13 +31,13 @@ class Montador {
 
     std::vector<std::string> cabeçalho() const {
         std::vector<std::string> células{parte_.canto.toStdString()};
-        for (const int c : colunas_) células.push_back(textoDe(modelo_.headerData(c, Qt::Horizontal)));
+        for (const int c : colunas_) células.push_back(cabeçalhoDe(modelo_.headerData(c, Qt::Horizontal)));
         return células;
     }
 
     std::vector<std::string> linha(int l) const {
         std::vector<std::string> células;
-        if (parte_.cabeçalhos) células.push_back(textoDe(modelo_.headerData(l, Qt::Vertical)));
+        if (parte_.cabeçalhos) células.push_back(cabeçalhoDe(modelo_.headerData(l, Qt::Vertical)));
         for (const int c : colunas_) {
             const auto célula = modelo_.index(l, c);
             // A single range needs no search, which would be slow for a large table.

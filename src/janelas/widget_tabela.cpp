@@ -180,9 +180,11 @@ void WidgetTabela::keyPressEvent(QKeyEvent* evento) {
     if (usarTecla(*evento)) return;
     const bool espaço = evento->key() == Qt::Key_Space && currentIndex().isValid();
     if (espaço && evento->modifiers() == Qt::ShiftModifier)
-        selectRow(currentIndex().row());
+        selectionModel()->select(currentIndex(),
+                                 QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
     else if (espaço && evento->modifiers() == Qt::ControlModifier)
-        selectColumn(currentIndex().column());
+        selectionModel()->select(currentIndex(),
+                                 QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Columns);
     else
         QTableView::keyPressEvent(evento);
 }

@@ -239,6 +239,15 @@ TEST_F(EntradaNaPlanilha, UmBlocoQueNãoServeÉRecusadoInteiro) {
     }
 }
 
+TEST_F(EntradaNaPlanilha, UmBlocoÉContadoÀTelaUmaVezQuandoEstáInteiro) {
+    auto planilha = planilhaDeTeste();
+    planilha.aoMudar = [] { anotarEvento("escrita " + telaDeTeste->grade.célula(2, 2)); };
+    eventos.clear();
+    colar(planilha, {{"1", "2"}, {"3", "4"}});
+    std::erase(eventos, "entrada");
+    EXPECT_EQ(eventos, Eventos{"escrita 4.000"});
+}
+
 TEST_F(EntradaNaPlanilha, UmBlocoEsperaUmaContagemNumérica) {
     telaDeTeste->contagem.texto = "dois";
     colar(planilhaDeTeste(), {{"1"}});
