@@ -22,13 +22,17 @@ std::optional<std::string> pedirArquivoDeDados();
 /// writes nothing.
 void salvarArquivoDeDados(std::string_view texto, std::string_view falha, std::string_view fimDaFalha = "");
 
+/// Writes the text into the file of that name. A failure is told as `falha`, the reason and `fimDaFalha`.
+void gravarArquivoDeDados(const std::string& caminho, std::string_view texto, std::string_view falha,
+                          std::string_view fimDaFalha);
+
 /// Adds a line of a file, with its end.
 void acrescentarLinha(std::string& texto, std::string_view linha);
 
 /// The text, or what stands for it in a file and on screens where it is empty.
 std::string ouSubstituto(const std::string& texto, const char* substituto);
 
-/// The cells of a row, separated by tabs. A row always has one cell at least.
-std::vector<std::string> separarColunas(std::string_view linha);
+/// The cells of a row, separated by tabs or by another sign. A row always has one cell at least.
+std::vector<std::string> separarColunas(std::string_view linha, char separador = '\t');
 
 } // namespace varenta

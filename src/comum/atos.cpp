@@ -183,6 +183,13 @@ void preencherCélula(const Alvo& alvo, int linha, int coluna, std::string texto
     });
 }
 
+void colar(const Alvo& alvo, std::string_view texto) {
+    deixarControle();
+    const auto& grade = exigir<Grade>(alvo, "entrada");
+    const auto planilha = exigirPlanilha(alvo, grade.linhaAtual, grade.colunaAtual);
+    executarAto([&] { varenta::colar(planilha, separarBloco(texto)); });
+}
+
 void moverMouse(const Alvo& alvo, double x, double y) {
     soltar();
     auto& desenho = exigir<Desenho>(alvo, "movimento do mouse em coordenadas");

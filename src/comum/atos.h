@@ -85,6 +85,9 @@ void irParaCélula(const Alvo& alvo, int linha, int coluna);
 /// Goes to a cell, types a text in the grid's entry line and presses Enter.
 void preencherCélula(const Alvo& alvo, int linha, int coluna, std::string texto);
 
+/// Pastes what a spreadsheet copied into a grid that takes entries, from its current cell on.
+void colar(const Alvo& alvo, std::string_view texto);
+
 /// Moves the mouse over a drawing surface, in its own units.
 void moverMouse(const Alvo& alvo, double x, double y);
 

@@ -5,11 +5,65 @@
 #include "comum/plataforma.h"
 
 namespace varenta {
+namespace {
+
+/// What its headers make, as in "2 : Distância - r (m)".
+std::string nomeDe(const Grade& grade, int linha, int coluna) {
+    return grade.célula(linha, 0) + " : " + grade.célula(0, coluna);
+}
+
+/// Answers and returns false while the row count is no number.
+bool temContagem(const Planilha& planilha) {
+    if (!planilha.contagem || éNumérico(planilha.contagem->texto)) return true;
+    plataforma::mensagem("Insira valores numéricos!");
+    focar(*planilha.contagem);
+    return false;
+}
+
+/// A cell of a block, with its place in the grid.
+struct CélulaColada {
+    int linha, coluna;
+    const std::string& texto;
+};
+
+std::vector<CélulaColada> lugaresDe(const Bloco& bloco, const Grade& grade) {
+    std::vector<CélulaColada> células;
+    int linha = grade.linhaAtual;
+    for (const auto& textos : bloco) {
+        int coluna = grade.colunaAtual;
+        for (const auto& texto : textos) células.push_back({linha, coluna++, texto});
+        ++linha;
+    }
+    return células;
+}
+
+/// The same amid a message: some headers end in a blank that only widens them.
+std::string nomeNaMensagem(const Grade& grade, int linha, int coluna) {
+    auto nome = nomeDe(grade, linha, coluna);
+    nome.resize(nome.find_last_not_of(' ') + 1);
+    return nome;
+}
+
+/// Why the block can't be pasted; empty where it can.
+std::string recusaDoBloco(const Bloco& bloco, const Grade& grade) {
+    const auto colunas = bloco.front().size();
+    if (bloco.size() > static_cast<std::size_t>(grade.linhas - grade.linhaAtual) ||
+        colunas > static_cast<std::size_t>(grade.colunas - grade.colunaAtual))
+        return "Nada foi colado: o bloco, de " + std::to_string(bloco.size()) + " x " +
+               std::to_string(colunas) + " células, não cabe a partir da célula " +
+               nomeNaMensagem(grade, grade.linhaAtual, grade.colunaAtual) + "!";
+    for (const auto& [linha, coluna, texto] : lugaresDe(bloco, grade))
+        if (!éNumérico(texto))
+            return "Nada foi colado: o valor da célula " + nomeNaMensagem(grade, linha, coluna) +
+                   (texto.empty() ? " está vazio!" : " não é um número!");
+    return {};
+}
+
+} // namespace
 
 void nomearCélula(const Planilha& planilha) {
     const auto& grade = planilha.grade;
-    planilha.nomeDaCélula.texto =
-        grade.célula(grade.linhaAtual, 0) + " : " + grade.célula(0, grade.colunaAtual);
+    planilha.nomeDaCélula.texto = nomeDe(grade, grade.linhaAtual, grade.colunaAtual);
 }
 
 void entrarNaCélula(const Planilha& planilha) {
@@ -57,17 +111,32 @@ void irParaCélula(const Planilha& planilha, int linha, int coluna) {
     entrarNaCélula(planilha);
 }
 
+void colar(const Planilha& planilha, const Bloco& bloco) {
+    if (!temContagem(planilha)) return;
+    const auto& grade = planilha.grade;
+    if (const auto recusa = recusaDoBloco(bloco, grade); !recusa.empty()) {
+        plataforma::mensagem(recusa);
+        return;
+    }
+    const int linha = grade.linhaAtual, coluna = grade.colunaAtual;
+    // The screen hears of all cells at once, with the last one: it looks at its whole grid each time.
+    auto semAviso = planilha;
+    semAviso.aoMudar = nullptr;
+    for (const auto& célula : lugaresDe(bloco, grade)) {
+        irParaCélula(semAviso, célula.linha, célula.coluna);
+        definirTexto(planilha.entrada, célula.texto);
+    }
+    irParaCélula(planilha, linha, coluna);
+    receberFoco(planilha);
+}
+
 void receberFoco(const Planilha& planilha) {
     focar(planilha.entrada);
     planilha.entrada.tudoSelecionado = true;
 }
 
 bool teclar(const Planilha& planilha, int tecla) {
-    if (planilha.contagem && !éNumérico(planilha.contagem->texto)) {
-        plataforma::mensagem("Insira valores numéricos!");
-        focar(*planilha.contagem);
-        return true;
-    }
+    if (!temContagem(planilha)) return true;
     if (tecla != teclaEnter || !planilha.digitação) return false;
     const auto& grade = planilha.grade;
     if (grade.colunaAtual + 1 < grade.colunas)

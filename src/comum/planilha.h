@@ -1,6 +1,7 @@
 #pragma once
 
 #include "comum/controles.h"
+#include "comum/texto_tabela.h"
 
 #include <string>
 #include <string_view>
@@ -48,6 +49,11 @@ void nomearCélula(const Planilha& planilha);
 
 /// Leaves the current cell and enters another. Raises "Índice fora dos limites" outside the grid.
 void irParaCélula(const Planilha& planilha, int linha, int coluna);
+
+/// Types a block into the grid, cell by cell through the entry line, its first cell into the current one, and
+/// comes back to that. A block that the grid has no room for, or with a cell that holds no number (an empty
+/// one neither), is refused whole by a message that names the cell.
+void colar(const Planilha& planilha, const Bloco& bloco);
 
 /// The grid has got the focus: it passes to the entry line with its whole text selected.
 void receberFoco(const Planilha& planilha);

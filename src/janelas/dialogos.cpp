@@ -30,6 +30,15 @@ std::optional<QString> escolherArquivo(QFileDialog& diálogo) {
     return diálogo.selectedFiles().value(0);
 }
 
+/// A name typed without an ending gets that of the filter that the person chose, if it has one.
+void completarPeloFiltro(QFileDialog& diálogo) {
+    QObject::connect(&diálogo, &QFileDialog::filterSelected, &diálogo, [&diálogo](const QString& filtro) {
+        static const QRegularExpression máscara{QStringLiteral("\\(\\*\\.(\\w+)")};
+        if (const auto achada = máscara.match(filtro); achada.hasMatch())
+            diálogo.setDefaultSuffix(achada.captured(1));
+    });
+}
+
 QString qtexto(std::string_view texto) {
     return QString::fromUtf8(texto.data(), static_cast<qsizetype>(texto.size()));
 }
@@ -105,6 +114,7 @@ Dialogos dialogosDoQt() {
                 diálogo.setOption(QFileDialog::DontConfirmOverwrite);
                 diálogo.selectNameFilter(diálogo.nameFilters().value(filtroInicial - 1));
                 diálogo.setDefaultSuffix(extensãoPadrão);
+                completarPeloFiltro(diálogo);
                 return escolherArquivo(diálogo);
             },
         .ajuda = mostrarJanelaDaAjuda,

@@ -3,6 +3,8 @@
 #include "comum/atos.h"
 #include "comum/planilha.h"
 #include "janelas/janelas.h"
+#include "janelas/linha_de_entrada.h"
+#include "janelas/texto_digitado.h"
 #include "janelas/widget_desenho.h"
 #include "janelas/widget_tabela.h"
 
@@ -101,6 +103,8 @@ bool veioDaPessoa(Qt::FocusReason motivo) {
            motivo == Qt::BacktabFocusReason || motivo == Qt::ShortcutFocusReason;
 }
 
+bool aceitaEntradas(const Grade& grade) { return grade.planilha && grade.planilha().digitação; }
+
 } // namespace
 
 /// Listens to the widget of a control.
@@ -155,13 +159,20 @@ struct Vinculo::Ligar {
     }
 
     void operator()(WidgetTabela& tabela) const {
-        QObject::connect(&tabela, &QTableView::clicked, &v, [v = &v, nome = nome](const QModelIndex& índice) {
-            v->agir(nome, [&](const Alvo& alvo) {
-                const auto& grade = *std::get<Grade*>(alvo.elemento.controle);
-                if (grade.planilha && grade.planilha().digitação)
-                    atos::irParaCélula(alvo, índice.row() + 1, índice.column() + 1);
-            });
-        });
+        QObject::connect(&tabela, &WidgetTabela::celulaEscolhida, &v,
+                         [v = &v, nome = nome](int linha, int coluna) {
+                             v->agir(nome, [&](const Alvo& alvo) {
+                                 if (aceitaEntradas(*std::get<Grade*>(alvo.elemento.controle)))
+                                     atos::irParaCélula(alvo, linha + 1, coluna + 1);
+                             });
+                             // The entry line may have had the focus already, with another text.
+                             v->selecionarEntrada();
+                         });
+        QObject::connect(&tabela, &WidgetTabela::colarPedido, &v,
+                         [v = &v, nome = nome](const QString& texto) {
+                             v->agir(nome, [&](const Alvo& alvo) { atos::colar(alvo, texto.toStdString()); });
+                             v->selecionarEntrada();
+                         });
     }
 
     void operator()(WidgetDesenho& desenho) const {
@@ -181,8 +192,9 @@ struct Vinculo::Ligar {
         });
     }
 
-    void digitarEm(const QLineEdit& caixa) const {
-        QObject::connect(&caixa, &QLineEdit::textEdited, &v, [v = &v, nome = nome](const QString& texto) {
+    void digitarEm(QLineEdit& caixa) const {
+        const auto* digitado = new TextoDigitado{caixa};
+        QObject::connect(digitado, &TextoDigitado::mudou, &v, [v = &v, nome = nome](const QString& texto) {
             v->agir(nome, [&](const Alvo& alvo) { atos::digitar(alvo, texto.toStdString()); });
         });
     }
@@ -277,7 +289,10 @@ struct Vinculo::Mostrar {
 
     void operator()(WidgetTabela& tabela, const Grade& r) const {
         tabela.mostrar(r);
-        if (r.planilha) tabela.setCurrentIndex(tabela.model()->index(r.linhaAtual - 1, r.colunaAtual - 1));
+        if (r.planilha) {
+            tabela.aceitarEntradas(aceitaEntradas(r));
+            tabela.mostrarCélulaAtual(r.linhaAtual - 1, r.colunaAtual - 1);
+        }
         mostrarEstado(tabela, r.visivel, r.habilitado);
     }
 
@@ -289,7 +304,8 @@ struct Vinculo::Mostrar {
 
 Vinculo::Vinculo(TelaBase& tela, QWidget& janela, Janelas& janelas)
     : QObject{&janela}, tela_{tela}, janela_{janela}, janelas_{janelas} {
-    for (const auto& elemento : tela.elementos()) {
+    const auto elementos = tela.elementos();
+    for (const auto& elemento : elementos) {
         if (elemento.índice) continue;
         std::visit(
             [&](const auto* controle) {
@@ -310,6 +326,20 @@ Vinculo::Vinculo(TelaBase& tela, QWidget& janela, Janelas& janelas)
         widget->installEventFilter(this);
         if (qobject_cast<QGroupBox*>(widget)) widget->setMouseTracking(true);
     }
+    // Last, so that they see the keys first.
+    for (const auto& elemento : elementos)
+        if (const auto* const* grade = std::get_if<Grade*>(&elemento.controle))
+            ligarEntrada(elemento.nome, **grade);
+}
+
+/// The entry line of a grid works on its table too.
+void Vinculo::ligarEntrada(const std::string& nome, const Grade& grade) {
+    if (!grade.planilha) return;
+    const auto& entrada = grade.planilha().entrada;
+    for (const auto& elemento : tela_.elementos())
+        if (elemento.endereço() == &entrada)
+            new LinhaDeEntrada{*static_cast<QLineEdit*>(objetos_.at(elemento.nome)),
+                               *static_cast<WidgetTabela*>(objetos_.at(nome))};
 }
 
 template <class Ato>
@@ -391,6 +421,11 @@ void Vinculo::distribuirMatrizes(const std::unordered_map<std::string, QStringLi
 void Vinculo::levarFoco() {
     if (!comFoco_ || comFoco_ == janela_.focusWidget()) return;
     comFoco_->setFocus();
+    selecionarEntrada();
+}
+
+/// The whole text of the box that has the focus, where its record wants it so.
+void Vinculo::selecionarEntrada() {
     const auto elemento = controleDe(comFoco_);
     const auto* const* caixa = elemento ? std::get_if<CaixaTexto*>(&elemento->controle) : nullptr;
     if (caixa && (*caixa)->tudoSelecionado) qobject_cast<QLineEdit*>(comFoco_)->selectAll();
@@ -412,7 +447,7 @@ void Vinculo::receberFoco(const QObject* objeto) {
     // Leaving a list takes over what was typed into it.
     if (atos::háTextoPorConfirmar()) janelas_.agir(atos::confirmar);
     const auto* const* grade = elemento ? std::get_if<Grade*>(&elemento->controle) : nullptr;
-    if (!grade || !(*grade)->planilha) return;
+    if (!grade || !aceitaEntradas(**grade)) return;
     janelas_.agir([&] { varenta::receberFoco((*grade)->planilha()); });
 }
 

@@ -43,6 +43,8 @@ class Vinculo : public QObject {
     std::optional<varenta::Elemento> controleDe(const QObject* objeto) const;
     void esquecerVersões();
     void distribuirMatrizes(const std::unordered_map<std::string, QStringList>& matrizes);
+    void ligarEntrada(const std::string& nome, const varenta::Grade& grade);
+    void selecionarEntrada();
     void receberFoco(const QObject* objeto);
     bool usarTecla(const QObject* objeto, const QKeyEvent& tecla);
 

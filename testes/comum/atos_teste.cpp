@@ -276,6 +276,25 @@ TEST_F(Atos, PreencherCélulaSemContagemNuméricaSóDáAMensagem) {
     EXPECT_EQ(controleComFoco, &telaDeTeste->contagem);
 }
 
+TEST_F(Atos, ColarPreencheAPartirDaCélulaAtual) {
+    telaDeTeste->grade.dimensionar(3, 3);
+    atos::irParaCélula(em("grade"), 1, 2);
+    atos::colar(em("grade"), "1,5\r\n2,25\r\n");
+    EXPECT_EQ(telaDeTeste->grade.célula(1, 2), "1.500");
+    EXPECT_EQ(telaDeTeste->grade.célula(2, 2), "2.250");
+    EXPECT_EQ(controleComFoco, &telaDeTeste->entrada);
+}
+
+TEST_F(Atos, ColarÉRecusadoOndeNãoSeDigita) {
+    EXPECT_EQ(recusaDe([&] { atos::colar(em("tabela"), "1"); }), "TelaDeTeste.tabela não admite entrada");
+    EXPECT_EQ(recusaDe([&] { atos::colar(em("caixa"), "1"); }), "TelaDeTeste.caixa não admite entrada");
+    telaDeTeste->arquivo.marcada = true;
+    EXPECT_EQ(recusaDe([&] { atos::colar(em("grade"), "1"); }), "TelaDeTeste.grade não admite entrada");
+    telaDeTeste->arquivo.marcada = false;
+    telaDeTeste->grade.habilitado = false;
+    EXPECT_EQ(recusaDe([&] { atos::colar(em("grade"), "1"); }), "TelaDeTeste.grade está desabilitado");
+}
+
 TEST_F(Atos, ErroDeExecuçãoEncerraOAtoEÉContadoÀPessoa) {
     telaDeTeste.ponteiro = Ponteiro::ampulheta;
     form3.ponteiro = Ponteiro::ampulheta;

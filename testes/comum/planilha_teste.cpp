@@ -192,5 +192,69 @@ TEST_F(EntradaNaPlanilha, UmaCélulaEscritaÉContadaATela) {
     EXPECT_EQ(eventos, Eventos{"escrita"});
 }
 
+TEST_F(EntradaNaPlanilha, UmBlocoEntraCélulaPorCélulaNoFormatoDeCadaColunaEVoltaAoComeço) {
+    entrada() = "não digitado até o fim";
+    colar(planilhaDeTeste(), {{"2", "0.1236"}, {"4.005", "1e1"}});
+    EXPECT_EQ(grade().célula(1, 1), "2.00");
+    EXPECT_EQ(grade().célula(1, 2), "0.124");
+    EXPECT_EQ(grade().célula(2, 1), "4.00"); // the double nearest to 4.005 is below it
+    EXPECT_EQ(grade().célula(2, 2), "10.000");
+    EXPECT_EQ(atual(), (std::pair{1, 1}));
+    EXPECT_EQ(entrada(), "2.00");
+    EXPECT_EQ(controleComFoco, &telaDeTeste->entrada);
+    EXPECT_EQ(caderno, Eventos{});
+}
+
+TEST_F(EntradaNaPlanilha, UmBlocoComeçaNaCélulaAtual) {
+    irParaCélula(planilhaDeTeste(), 1, 2);
+    colar(planilhaDeTeste(), {{"5"}, {"6"}});
+    EXPECT_EQ(grade().célula(1, 1), "");
+    EXPECT_EQ(grade().célula(1, 2), "5.000");
+    EXPECT_EQ(grade().célula(2, 2), "6.000");
+    EXPECT_EQ(atual(), (std::pair{1, 2}));
+}
+
+TEST_F(EntradaNaPlanilha, UmBlocoQueNãoServeÉRecusadoInteiro) {
+    irParaCélula(planilhaDeTeste(), 1, 2);
+    grade().escrever(1, 1, "9.00");
+    const std::string cabe = "não cabe a partir da célula 1 : Intensidade - i (mm/h)!";
+    const std::vector<std::pair<Bloco, std::string>> recusados = {
+        {{{"1", "2"}}, "o bloco, de 1 x 2 células, " + cabe},
+        {{{"1"}, {"2"}, {"3"}}, "o bloco, de 3 x 1 células, " + cabe},
+        {{{"1"}, {"mm"}}, "o valor da célula 2 : Intensidade - i (mm/h) não é um número!"},
+        {{{"1,234.5"}}, "o valor da célula 1 : Intensidade - i (mm/h) não é um número!"},
+        {{{"1e999"}}, "o valor da célula 1 : Intensidade - i (mm/h) não é um número!"},
+        {{{"1"}, {""}}, "o valor da célula 2 : Intensidade - i (mm/h) está vazio!"},
+    };
+    for (const auto& [bloco, recusa] : recusados) {
+        caderno.clear();
+        entrada() = "7";
+        colar(planilhaDeTeste(), bloco);
+        EXPECT_EQ(caderno, Eventos{"mensagem: Nada foi colado: " + recusa});
+        EXPECT_EQ(grade().célula(1, 1), "9.00");
+        EXPECT_EQ(grade().célula(1, 2), "");
+        EXPECT_EQ(grade().célula(2, 2), "");
+        EXPECT_EQ(entrada(), "7");
+        EXPECT_EQ(atual(), (std::pair{1, 2}));
+    }
+}
+
+TEST_F(EntradaNaPlanilha, UmBlocoÉContadoÀTelaUmaVezQuandoEstáInteiro) {
+    auto planilha = planilhaDeTeste();
+    planilha.aoMudar = [] { anotarEvento("escrita " + telaDeTeste->grade.célula(2, 2)); };
+    eventos.clear();
+    colar(planilha, {{"1", "2"}, {"3", "4"}});
+    std::erase(eventos, "entrada");
+    EXPECT_EQ(eventos, Eventos{"escrita 4.000"});
+}
+
+TEST_F(EntradaNaPlanilha, UmBlocoEsperaUmaContagemNumérica) {
+    telaDeTeste->contagem.texto = "dois";
+    colar(planilhaDeTeste(), {{"1"}});
+    EXPECT_EQ(caderno, Eventos{"mensagem: Insira valores numéricos!"});
+    EXPECT_EQ(controleComFoco, &telaDeTeste->contagem);
+    EXPECT_EQ(grade().célula(1, 1), "");
+}
+
 } // namespace
 } // namespace varenta::teste
