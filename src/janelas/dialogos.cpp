@@ -50,9 +50,14 @@ class EntradasDescartadas : public QObject {
 
     bool eventFilter(QObject*, QEvent* evento) override {
         switch (evento->type()) {
-        case QEvent::MouseButtonPress:
         case QEvent::MouseButtonRelease:
+            // Of a button that was down already: what it holds must not stay pressed.
+            if (!apertou_) return false;
+            break;
+        case QEvent::MouseButtonPress:
         case QEvent::MouseButtonDblClick:
+            apertou_ = true;
+            break;
         case QEvent::MouseMove:
         case QEvent::Wheel:
         case QEvent::ContextMenu:
@@ -64,20 +69,17 @@ class EntradasDescartadas : public QObject {
         case QEvent::TouchUpdate:
         case QEvent::TouchEnd:
         case QEvent::Close:
-            evento->ignore();
-            return true;
+            break;
         default:
             return false;
         }
+        evento->ignore();
+        return true;
     }
-};
 
-/// Lets the windows paint themselves. What the person did since the last time is not kept for later: nothing
-/// else can be started while a long run is at work, nor once it is over by a click that waited.
-void pintarSemOuvir() {
-    const EntradasDescartadas agora;
-    QCoreApplication::processEvents();
-}
+  private:
+    bool apertou_ = false;
+};
 
 } // namespace
 
@@ -116,6 +118,11 @@ Dialogos dialogosDoQt() {
 Dialogos& dialogos() {
     static Dialogos emUso = dialogosDoQt();
     return emUso;
+}
+
+void pintarSemOuvir() {
+    const EntradasDescartadas agora;
+    QCoreApplication::processEvents();
 }
 
 QString filtrosDoQt(const QString& filtro) {

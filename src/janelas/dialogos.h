@@ -32,6 +32,10 @@ Dialogos dialogosDoQt();
 /// Called before a box appears and while a long run comes further, so that the windows show how things stand.
 inline std::function<void()> antesDeCadaDialogo;
 
+/// Lets the windows paint themselves, and drops what the person did up to now: nothing else can be started
+/// while a long run is at work, nor once it is over by a click that waited.
+void pintarSemOuvir();
+
 /// "Text files|*.TXT|All files|*.*" as Qt's "Text files (*.TXT *.txt);;All files (*)". Masks that a name
 /// holds already, in brackets at its end, are not written twice.
 QString filtrosDoQt(const QString& filtro);
