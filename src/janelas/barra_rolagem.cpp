@@ -1,8 +1,5 @@
 #include "janelas/barra_rolagem.h"
 
-#include <QPainter>
-#include <QPen>
-
 BarraRolagem::BarraRolagem(QWidget* pai) : QScrollBar{Qt::Horizontal, pai} {
     setFocusPolicy(Qt::StrongFocus);
     setInvertedControls(false);
@@ -17,12 +14,4 @@ QSize BarraRolagem::sizeHint() const {
 
 QSize BarraRolagem::minimumSizeHint() const {
     return {fontMetrics().averageCharWidth() * 14, QScrollBar::minimumSizeHint().height()};
-}
-
-void BarraRolagem::paintEvent(QPaintEvent* evento) {
-    QScrollBar::paintEvent(evento);
-    if (!hasFocus()) return;
-    QPainter pintor{this};
-    pintor.setPen(QPen{palette().color(QPalette::Highlight), 2});
-    pintor.drawRect(rect().adjusted(1, 1, -1, -1));
 }

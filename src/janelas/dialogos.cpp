@@ -59,9 +59,14 @@ class EntradasDescartadas : public QObject {
 
     bool eventFilter(QObject*, QEvent* evento) override {
         switch (evento->type()) {
-        case QEvent::MouseButtonPress:
         case QEvent::MouseButtonRelease:
+            // Of a button that was down already: what it holds must not stay pressed.
+            if (!apertou_) return false;
+            break;
+        case QEvent::MouseButtonPress:
         case QEvent::MouseButtonDblClick:
+            apertou_ = true;
+            break;
         case QEvent::MouseMove:
         case QEvent::Wheel:
         case QEvent::ContextMenu:
@@ -73,20 +78,19 @@ class EntradasDescartadas : public QObject {
         case QEvent::TouchUpdate:
         case QEvent::TouchEnd:
         case QEvent::Close:
-            evento->ignore();
-            return true;
+            break;
         default:
             return false;
         }
+        evento->ignore();
+        return true;
     }
+
+  private:
+    bool apertou_ = false;
 };
 
 } // namespace
-
-void pintarSemOuvir() {
-    const EntradasDescartadas agora;
-    QCoreApplication::processEvents();
-}
 
 Dialogos dialogosDoQt() {
     return {
@@ -124,6 +128,11 @@ Dialogos dialogosDoQt() {
 Dialogos& dialogos() {
     static Dialogos emUso = dialogosDoQt();
     return emUso;
+}
+
+void pintarSemOuvir() {
+    const EntradasDescartadas agora;
+    QCoreApplication::processEvents();
 }
 
 QString filtrosDoQt(const QString& filtro) {

@@ -32,8 +32,8 @@ Dialogos dialogosDoQt();
 /// Called before a box appears and while a long run comes further, so that the windows show how things stand.
 inline std::function<void()> antesDeCadaDialogo;
 
-/// Lets the windows paint themselves. What the person did since the last time is not kept for later: nothing
-/// else can be started while a long run or a roteiro is at work, nor once it is over by a click that waited.
+/// Lets the windows paint themselves, and drops what the person did up to now: nothing else can be started
+/// while a long run or a roteiro is at work, nor once it is over by a click that waited.
 void pintarSemOuvir();
 
 /// "Text files|*.TXT|All files|*.*" as Qt's "Text files (*.TXT *.txt);;All files (*)". Masks that a name

@@ -1,6 +1,7 @@
 #include "janelas/janela_ajuda.h"
 
 #include "comum/erro_execucao.h"
+#include "janelas/paletas.h"
 
 #include <QBoxLayout>
 #include <QCoreApplication>
@@ -123,6 +124,8 @@ JanelaDaAjuda::JanelaDaAjuda() : páginas_{lerPáginasDaAjuda()}, página_{new Q
     setWindowTitle(QStringLiteral("Ajuda do Varenta"));
     página_->setObjectName(QStringLiteral("pagina"));
     página_->setAccessibleName(QStringLiteral("Página da ajuda"));
+    // Its figures are made for light paper.
+    página_->setPalette(paletaClara());
     página_->setSearchPaths({QString::fromLatin1(pastaDaAjuda)});
     página_->document()->setDefaultStyleSheet(lerRecurso(QStringLiteral("estilo.css")));
     connect(página_, &QTextBrowser::sourceChanged, this,

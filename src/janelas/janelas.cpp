@@ -4,6 +4,8 @@
 #include "janelas/dialogos.h"
 #include "janelas/vinculo.h"
 
+#include <QApplication>
+#include <QElapsedTimer>
 #include <QScreen>
 #include <QShortcut>
 
@@ -23,18 +25,11 @@ class Enquanto {
     bool& sinal_;
 };
 
-/// Gives a window that appears for the first time its size, and its place where the person is looking.
-void colocar(QWidget& janela, const QWidget* anterior) {
-    const QRect disponível = janela.screen()->availableGeometry();
-    janela.resize(janela.sizeHint());
-    QRect lugar{{}, janela.size()};
-    lugar.moveCenter(anterior ? anterior->geometry().center() : disponível.center());
-    lugar.moveRight(std::min(lugar.right(), disponível.right()));
-    lugar.moveBottom(std::min(lugar.bottom(), disponível.bottom()));
-    lugar.moveLeft(std::max(lugar.left(), disponível.left()));
-    lugar.moveTop(std::max(lugar.top(), disponível.top()));
-    janela.move(lugar.topLeft());
-}
+// A window manager moves a window by the width of its frame; what a person moves goes further.
+constexpr int folgaDaMoldura = 48;
+
+// An act that took longer than this may have been clicked at more than once.
+constexpr int tempoDeUmaEsperaMs = 300;
 
 } // namespace
 
@@ -54,6 +49,8 @@ QWidget* Janelas::janela(const varenta::TelaBase& tela) const {
 
 void Janelas::agir(const std::function<void()>& ato) {
     if (agindo_ || atualizando_) return;
+    QElapsedTimer relógio;
+    relógio.start();
     {
         const Enquanto agora{agindo_};
         try {
@@ -63,6 +60,7 @@ void Janelas::agir(const std::function<void()>& ato) {
         }
     }
     atualizar();
+    if (relógio.elapsed() > tempoDeUmaEsperaMs) varenta::pintarSemOuvir();
 }
 
 void Janelas::atualizar() {
@@ -86,20 +84,19 @@ void Janelas::conferirExistência() {
 }
 
 void Janelas::mostrarEEsconder() {
-    const QWidget* anterior = nullptr;
-    for (const auto& [tela, vínculo] : vínculos_)
-        if (vínculo->janela().isVisible()) anterior = &vínculo->janela();
     // The new window first, so that there is no moment without one.
     for (const auto& [tela, vínculo] : vínculos_) {
         auto& janela = vínculo->janela();
         if (!tela->carregada() || !tela->visivel || janela.isVisible()) continue;
-        if (!janela.testAttribute(Qt::WA_Resized)) colocar(janela, anterior);
+        colocar(janela);
+        vínculo->darFocoInicial();
         janela.show();
         janela.activateWindow();
     }
     for (auto item = vínculos_.begin(); item != vínculos_.end();) {
         const auto& [tela, vínculo] = *item;
         if (!tela->carregada()) {
+            esquecerLugar(vínculo->janela());
             vínculo->descartar();
             item = vínculos_.erase(item);
             continue;
@@ -107,6 +104,41 @@ void Janelas::mostrarEEsconder() {
         if (!tela->visivel) vínculo->janela().hide();
         ++item;
     }
+}
+
+QPoint Janelas::meioDaÚltima() const {
+    const auto* ativa = QApplication::activeWindow();
+    const auto* última = lugares_.contains(ativa) ? ativa : última_;
+    if (!última) return meioDeixado_.value_or(QGuiApplication::primaryScreen()->availableGeometry().center());
+    const auto meio = última->frameGeometry().center();
+    const auto& lugar = lugares_.at(última);
+    return (meio - lugar.dado).manhattanLength() > folgaDaMoldura ? meio : lugar.pedido;
+}
+
+void Janelas::esquecerLugar(const QWidget& janela) {
+    if (última_ == &janela) {
+        meioDeixado_ = meioDaÚltima();
+        última_ = nullptr;
+    }
+    lugares_.erase(&janela);
+}
+
+/// A window that appears takes the place of the one before it, as far as it fits on the screen, and the size
+/// that it had, if it was seen before.
+void Janelas::colocar(QWidget& janela) {
+    const auto meio = meioDaÚltima();
+    const auto* tela = QGuiApplication::screenAt(meio);
+    const QRect disponível = (tela ? tela : QGuiApplication::primaryScreen())->availableGeometry();
+    if (!janela.testAttribute(Qt::WA_Resized)) janela.resize(janela.sizeHint());
+    QRect lugar{{}, janela.size()};
+    lugar.moveCenter(meio);
+    lugar.moveRight(std::min(lugar.right(), disponível.right()));
+    lugar.moveBottom(std::min(lugar.bottom(), disponível.bottom()));
+    lugar.moveLeft(std::max(lugar.left(), disponível.left()));
+    lugar.moveTop(std::max(lugar.top(), disponível.top()));
+    janela.move(lugar.topLeft());
+    última_ = &janela;
+    lugares_[última_] = {lugar.center(), meio};
 }
 
 void Janelas::levarFoco() {

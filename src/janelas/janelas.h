@@ -6,6 +6,7 @@
 
 #include <functional>
 #include <map>
+#include <optional>
 #include <span>
 
 class Vinculo;
@@ -30,6 +31,15 @@ class Janelas : public QObject {
     QWidget* janela(const varenta::TelaBase& tela) const;
 
   private:
+    /// Where a window stands, by its middle: where it was put, and where it would be on a larger screen.
+    struct Lugar {
+        QPoint dado, pedido;
+    };
+
+    void colocar(QWidget& janela);
+    /// The middle of the window that the person has in front.
+    QPoint meioDaÚltima() const;
+    void esquecerLugar(const QWidget& janela);
     void conferirExistência();
     void mostrarEEsconder();
     void descartar(Vinculo* vínculo);
@@ -37,6 +47,10 @@ class Janelas : public QObject {
 
     std::span<const ModeloDeJanela> modelos_;
     std::map<const varenta::TelaBase*, Vinculo*> vínculos_;
+    std::map<const QWidget*, Lugar> lugares_;
+    const QWidget* última_ = nullptr;
+    /// Where the last window stood, once it is gone.
+    std::optional<QPoint> meioDeixado_;
     bool atualizando_ = false;
     bool agindo_ = false;
 };

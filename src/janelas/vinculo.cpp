@@ -5,6 +5,8 @@
 #include "janelas/janelas.h"
 #include "janelas/linha_de_entrada.h"
 #include "janelas/texto_digitado.h"
+#include "janelas/linha_de_estado.h"
+#include "janelas/moldura_do_foco.h"
 #include "janelas/widget_desenho.h"
 #include "janelas/widget_tabela.h"
 
@@ -21,6 +23,7 @@
 #include <QRadioButton>
 #include <QScrollBar>
 
+#include <algorithm>
 #include <stdexcept>
 #include <type_traits>
 
@@ -116,10 +119,7 @@ struct Vinculo::Ligar {
     void operator()(QGroupBox&) const {}
     void operator()(QProgressBar&) const {}
 
-    void operator()(QPushButton& botão) const {
-        botão.setAutoDefault(true);
-        clicarCom(botão, &QPushButton::clicked);
-    }
+    void operator()(QPushButton& botão) const { clicarCom(botão, &QPushButton::clicked); }
     void operator()(QAction& ação) const { clicarCom(ação, &QAction::triggered); }
     void operator()(QRadioButton& opção) const { clicarCom(opção, &QRadioButton::clicked); }
     void operator()(QCheckBox& caixa) const { clicarCom(caixa, &QCheckBox::clicked); }
@@ -320,6 +320,8 @@ Vinculo::Vinculo(TelaBase& tela, QWidget& janela, Janelas& janelas)
             elemento.controle);
     }
 
+    new MolduraDoFoco{janela_};
+    if (LinhaDeEstado::temOQueDizer(janela_)) estado_ = new LinhaDeEstado{janela_};
     janela_.installEventFilter(this);
     janela_.setMouseTracking(true);
     for (auto* widget : janela_.findChildren<QWidget*>()) {
@@ -380,6 +382,7 @@ void Vinculo::atualizar() {
         if (elemento.endereço() == controleComFoco) comFoco_ = qobject_cast<QWidget*>(objeto);
     }
     distribuirMatrizes(matrizes);
+    if (estado_) estado_->atualizar();
 
     switch (tela_.ponteiro) {
     case Ponteiro::padrão:
@@ -431,6 +434,18 @@ void Vinculo::selecionarEntrada() {
     if (caixa && (*caixa)->tudoSelecionado) qobject_cast<QLineEdit*>(comFoco_)->selectAll();
 }
 
+void Vinculo::darFocoInicial() {
+    if (janela_.focusWidget()) return;
+    for (auto* widget = janela_.nextInFocusChain(); widget != &janela_; widget = widget->nextInFocusChain()) {
+        const bool mostra = qobject_cast<WidgetDesenho*>(widget) || qobject_cast<WidgetTabela*>(widget);
+        if (mostra || !(widget->focusPolicy() & Qt::TabFocus) || !widget->isVisibleTo(&janela_) ||
+            !widget->isEnabled())
+            continue;
+        widget->setFocus(Qt::OtherFocusReason);
+        return;
+    }
+}
+
 void Vinculo::descartar() {
     janela_.hide();
     janela_.deleteLater();
@@ -464,6 +479,37 @@ bool Vinculo::usarTecla(const QObject* objeto, const QKeyEvent& tecla) {
     return usada;
 }
 
+/// Keys that no control took: Enter presses the button that has the focus, else the default one, and Esc does
+/// what the close box does where the layout says that nothing typed goes with it.
+bool Vinculo::usarTeclaDaJanela(const QKeyEvent& tecla) {
+    if (tecla.key() == Qt::Key_Escape && janela_.property("fechaComEsc").toBool()) {
+        janela_.close();
+        return true;
+    }
+    if (tecla.key() != Qt::Key_Return && tecla.key() != Qt::Key_Enter) return false;
+    if (auto* comFoco = qobject_cast<QPushButton*>(janela_.focusWidget()))
+        comFoco->click();
+    else
+        apertarBotãoPadrão();
+    return true;
+}
+
+void Vinculo::apertarBotãoPadrão() {
+    const auto botões = janela_.findChildren<QPushButton*>();
+    const auto padrão = std::ranges::find_if(botões, [](const QPushButton* botão) {
+        return botão->isDefault() && botão->isVisible() && botão->isEnabled();
+    });
+    if (padrão == botões.end()) return;
+    const auto* focoAntes = controleComFoco;
+    auto* widgetAntes = janela_.focusWidget();
+    const void* controle = controleDe(*padrão)->endereço();
+    (*padrão)->click();
+    // The person goes on where the key was pressed, unless the click led elsewhere.
+    if (controleComFoco != controle) return;
+    controleComFoco = focoAntes;
+    if (widgetAntes) widgetAntes->setFocus();
+}
+
 bool Vinculo::eventFilter(QObject* objeto, QEvent* evento) {
     switch (evento->type()) {
     case QEvent::Close:
@@ -488,6 +534,7 @@ bool Vinculo::eventFilter(QObject* objeto, QEvent* evento) {
         break;
     case QEvent::KeyPress:
         if (usarTecla(objeto, *static_cast<QKeyEvent*>(evento))) return true;
+        if (objeto == &janela_ && usarTeclaDaJanela(*static_cast<QKeyEvent*>(evento))) return true;
         break;
     default:
         break;

@@ -11,6 +11,7 @@
 #include <unordered_map>
 
 class Janelas;
+class LinhaDeEstado;
 class QKeyEvent;
 
 /// Joins the widgets of a window to the controls of its screen, by name. What the person does goes to the
@@ -27,6 +28,8 @@ class Vinculo : public QObject {
     void atualizar();
     /// The focus goes to the control that has it in the core, if that is one of this window.
     void levarFoco();
+    /// In a window that no one has used yet, the first control that takes entries or acts.
+    void darFocoInicial();
     /// The screen is gone: hides the window, and deletes it with this object as soon as no event of it is
     /// being handled any more.
     void descartar();
@@ -47,6 +50,8 @@ class Vinculo : public QObject {
     void selecionarEntrada();
     void receberFoco(const QObject* objeto);
     bool usarTecla(const QObject* objeto, const QKeyEvent& tecla);
+    bool usarTeclaDaJanela(const QKeyEvent& tecla);
+    void apertarBotãoPadrão();
 
     varenta::TelaBase& tela_;
     QWidget& janela_;
@@ -55,5 +60,6 @@ class Vinculo : public QObject {
     std::unordered_map<std::string, QObject*> objetos_;
     std::unordered_map<const QObject*, std::string> nomes_;
     QWidget* comFoco_ = nullptr;
+    LinhaDeEstado* estado_ = nullptr;
     bool estavaVisível_ = false;
 };

@@ -1,5 +1,7 @@
 #include "janelas/widget_desenho.h"
 
+#include "janelas/paletas.h"
+
 #include <QLabel>
 #include <QMouseEvent>
 #include <QPainter>
@@ -177,6 +179,9 @@ int maisLargo(const QFontMetrics& medidas, const QStringList& textos, const QStr
 
 WidgetDesenho::WidgetDesenho(QWidget* pai) : QWidget{pai} {
     setMouseTracking(true);
+    // In a dark window a drawing stands on a sheet of its own.
+    setAutoFillBackground(éEscura(palette()));
+    setPalette(paletaClara());
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
 }
 
