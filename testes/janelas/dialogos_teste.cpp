@@ -3,6 +3,7 @@
 #include "comum/plataforma.h"
 
 #include <QAbstractButton>
+#include <QComboBox>
 #include <QFileDialog>
 #include <QLabel>
 #include <QMessageBox>
@@ -82,6 +83,23 @@ TEST_F(CaixasDoQt, o_diálogo_para_salvar_completa_o_nome_e_não_pergunta_de_nov
         diálogo.reject();
     });
     EXPECT_EQ(plataforma::arquivoParaSalvar({.filtro = "Text files|*.TXT", .extensãoPadrão = "TXT"}),
+              std::nullopt);
+}
+
+TEST_F(CaixasDoQt, o_filtro_escolhido_completa_o_nome) {
+    aoAbrir<QFileDialog>([](QFileDialog& diálogo) {
+        EXPECT_EQ(diálogo.defaultSuffix(), "CSV");
+        auto& filtros = *diálogo.findChild<QComboBox*>("fileTypeCombo");
+        QTest::keyClick(&filtros, Qt::Key_Down);
+        EXPECT_EQ(diálogo.defaultSuffix(), "TXT");
+        // Any name will do there: the ending stays.
+        QTest::keyClick(&filtros, Qt::Key_Down);
+        EXPECT_EQ(diálogo.selectedNameFilter(), "Todos (*)");
+        EXPECT_EQ(diálogo.defaultSuffix(), "TXT");
+        diálogo.reject();
+    });
+    EXPECT_EQ(plataforma::arquivoParaSalvar(
+                  {.filtro = "Planilha CSV|*.CSV|Texto|*.TXT|Todos|*.*", .extensãoPadrão = "CSV"}),
               std::nullopt);
 }
 
