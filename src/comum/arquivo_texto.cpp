@@ -8,9 +8,11 @@
 #include <cstdint>
 #include <cstdio>
 #include <filesystem>
+#include <memory>
 #include <random>
 #include <utility>
 
+#include <dirent.h>
 #include <fcntl.h>
 #include <sys/file.h>
 #include <sys/stat.h>
@@ -164,16 +166,21 @@ bool trancar(int arquivo) { return ::flock(arquivo, LOCK_EX | LOCK_NB) == 0; }
 /// Removes what a program killed in the middle of a save left in the folder: provisional files that nobody
 /// keeps locked. What can't be looked at or removed stays; no save depends on it.
 void varrerRestos(const fs::path& pasta) {
-    std::error_code ignorado;
-    for (fs::directory_iterator i{pasta, ignorado}, fim; i != fim; i.increment(ignorado)) {
-        const auto nome = i->path().filename().string();
+    DIR* aberta = ::opendir(pasta.c_str());
+    if (!aberta) return;
+    const std::unique_ptr<DIR, int (*)(DIR*)> fechaNoFim{aberta, ::closedir};
+    while (const dirent* entrada = ::readdir(aberta)) {
+        const std::string_view nome{entrada->d_name};
         if (!nome.starts_with(inícioDoProvisório) ||
-            nome.size() != inícioDoProvisório.size() + letrasSorteadas || !i->is_regular_file(ignorado))
+            nome.size() != inícioDoProvisório.size() + letrasSorteadas)
             continue;
-        const int resto = ::open(i->path().c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOFOLLOW);
+        const auto caminho = pasta / nome;
+        struct stat dados {};
+        if (::lstat(caminho.c_str(), &dados) != 0 || !S_ISREG(dados.st_mode)) continue;
+        const int resto = ::open(caminho.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOFOLLOW);
         if (resto < 0) continue;
-        const Descritor aberto{resto};
-        if (trancar(resto)) ::unlink(i->path().c_str());
+        const Descritor fechaResto{resto};
+        if (trancar(resto)) ::unlink(caminho.c_str());
     }
 }
 
