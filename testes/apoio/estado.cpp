@@ -145,8 +145,8 @@ std::string estadoDasTelas() {
     for (auto* tela : telasEmOrdem()) {
         if (!tela->carregada()) continue;
         texto += tela->nome() + " \"" + tela->caption() + "\"" + (tela->visivel ? " shown" : " hidden") +
-                 (tela->habilitada ? " enabled" : " disabled") + " pointer " +
-                 std::to_string(static_cast<int>(tela->ponteiro)) + "\n";
+                 (tela->habilitada ? " enabled" : " disabled") +
+                 (tela->ponteiro == Ponteiro::ampulheta ? " hourglass" : "") + "\n";
         for (const auto& elemento : tela->elementos())
             texto += " " + elemento.nomeCompleto() + (estáVisível(elemento) ? " v" : " -") +
                      (estáHabilitado(elemento) ? "e " : "- ") + std::visit(Conteúdo{}, elemento.controle) +
