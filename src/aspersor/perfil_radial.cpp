@@ -57,7 +57,7 @@ FaixaDePressão faixaDeCincoLinhas(double pressao) {
 }
 
 FaixaDePressão faixaDeQuatroLinhas(double pressao) {
-    if (pressao < 40 || pressao > 70) throw ErroExecucao{índiceForaDosLimites};
+    exigirÍndice(pressao >= 40 && pressao <= 70);
     if (pressao < 50) return {0, 1, 40};
     if (pressao < 60) return {1, 2, 50};
     return {2, 3, 60};
@@ -67,7 +67,7 @@ std::span<const catalogo::LinhaDePerfil> blocoDoBocal(std::span<const catalogo::
                                                       int bocal) {
     const auto éDoBocal = [&](const catalogo::LinhaDePerfil& linha) { return linha.bocal == bocal; };
     const auto primeira = std::find_if(tabela.begin(), tabela.end(), éDoBocal);
-    if (primeira == tabela.end()) throw ErroExecucao{índiceForaDosLimites};
+    exigirÍndice(primeira != tabela.end());
     return {primeira, std::find_if_not(primeira, tabela.end(), éDoBocal)};
 }
 

@@ -4,12 +4,17 @@
 
 #include <array>
 #include <cerrno>
+#include <csignal>
 #include <cstdint>
 #include <cstdio>
 #include <filesystem>
+#include <memory>
+#include <random>
 #include <utility>
 
+#include <dirent.h>
 #include <fcntl.h>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -76,13 +81,10 @@ class Descritor {
     }
     Descritor(const Descritor&) = delete;
     Descritor& operator=(const Descritor&) = delete;
-    ~Descritor() {
-        if (número_ >= 0) ::close(número_);
-    }
+    /// What closing might report has been asked of `fsync` where it counts.
+    ~Descritor() { ::close(número_); }
 
     int número() const { return número_; }
-    /// Closes it and tells whether what was written has arrived.
-    bool fechar() { return ::close(std::exchange(número_, -1)) == 0; }
 
   private:
     int número_;
@@ -144,17 +146,118 @@ fs::path destino(fs::path caminho) {
     return caminho;
 }
 
-void escreverTudo(int arquivo, std::string_view bytes) {
-    while (!bytes.empty()) {
-        const auto escritos = ::write(arquivo, bytes.data(), bytes.size());
-        if (escritos < 0 && errno == EINTR) continue;
-        if (escritos < 0) falhar(errno);
-        if (escritos == 0) falhar(ENOSPC);
-        bytes.remove_prefix(static_cast<std::size_t>(escritos));
+constexpr std::string_view inícioDoProvisório = ".varenta-";
+constexpr std::size_t letrasSorteadas = 6;
+
+/// A name that a save may give to the file it is writing. Saves that run side by side get different ones.
+std::string sortearNome() {
+    constexpr std::string_view letras = "abcdefghijklmnopqrstuvwxyz0123456789";
+    std::random_device sorteio;
+    std::uniform_int_distribution<std::size_t> posição{0, letras.size() - 1};
+    std::string nome{inícioDoProvisório};
+    for (std::size_t n = 0; n < letrasSorteadas; ++n) nome += letras[posição(sorteio)];
+    return nome;
+}
+
+/// Keeps every other program from taking the file for one that was left behind, for as long as it is open.
+/// Where the file system has no locks nobody gets one, and nothing is ever taken for left behind.
+bool trancar(int arquivo) { return ::flock(arquivo, LOCK_EX | LOCK_NB) == 0; }
+
+/// Removes what a program killed in the middle of a save left in the folder: provisional files that nobody
+/// keeps locked. What can't be looked at or removed stays; no save depends on it.
+void varrerRestos(const fs::path& pasta) {
+    DIR* aberta = ::opendir(pasta.c_str());
+    if (!aberta) return;
+    const std::unique_ptr<DIR, int (*)(DIR*)> fechaNoFim{aberta, ::closedir};
+    while (const dirent* entrada = ::readdir(aberta)) {
+        const std::string_view nome{entrada->d_name};
+        if (!nome.starts_with(inícioDoProvisório) ||
+            nome.size() != inícioDoProvisório.size() + letrasSorteadas)
+            continue;
+        const auto caminho = pasta / nome;
+        struct stat dados {};
+        if (::lstat(caminho.c_str(), &dados) != 0 || !S_ISREG(dados.st_mode)) continue;
+        const int resto = ::open(caminho.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOFOLLOW);
+        if (resto < 0) continue;
+        const Descritor fechaResto{resto};
+        if (trancar(resto)) ::unlink(caminho.c_str());
     }
 }
 
+/// The file that a save writes before it takes the old one's place, gone with it if it never does. Where the
+/// file system allows, it has no name until it is whole, so that a killed program leaves nothing behind.
+class Provisório {
+  public:
+    explicit Provisório(const fs::path& pasta) : pasta_{pasta}, arquivo_{criar()} {}
+    Provisório(const Provisório&) = delete;
+    Provisório& operator=(const Provisório&) = delete;
+    ~Provisório() {
+        if (!nome_.empty()) ::unlink(nome_.c_str());
+    }
+
+    void escrever(std::string_view bytes, mode_t direitos) {
+        trancar(arquivo_.número());
+        if (::fchmod(arquivo_.número(), direitos) != 0) falhar(errno);
+        while (!bytes.empty()) {
+            const auto escritos = ::write(arquivo_.número(), bytes.data(), bytes.size());
+            if (escritos < 0 && errno == EINTR) continue;
+            if (escritos < 0) falhar(errno);
+            if (escritos == 0) falhar(ENOSPC);
+            bytes.remove_prefix(static_cast<std::size_t>(escritos));
+        }
+        if (::fsync(arquivo_.número()) != 0) falhar(errno);
+    }
+
+    void tomarOLugarDe(const fs::path& alvo) {
+        if (nome_.empty()) darNome();
+        // Still open, and so still locked: another program's sweep leaves it alone.
+        if (::rename(nome_.c_str(), alvo.c_str()) != 0) falhar(errno);
+        nome_.clear();
+    }
+
+  private:
+    static constexpr const char* abertos = "/proc/self/fd/";
+
+    /// Opens it, nameless if possible; -1 where it can't be opened.
+    int criar() {
+        // Without this folder a nameless file could not be named later.
+        if (::access(abertos, X_OK) == 0) {
+            const int semNome = ::open(pasta_.c_str(), O_TMPFILE | O_WRONLY | O_CLOEXEC, 0600);
+            if (semNome >= 0) return semNome;
+        }
+        return comNomeNovo([](const char* nome) {
+            return ::open(nome, O_CREAT | O_EXCL | O_WRONLY | O_CLOEXEC | O_NOFOLLOW, 0600);
+        });
+    }
+
+    void darNome() {
+        const auto aberto = abertos + std::to_string(arquivo_.número());
+        if (comNomeNovo([&aberto](const char* nome) {
+                return ::linkat(AT_FDCWD, aberto.c_str(), AT_FDCWD, nome, AT_SYMLINK_FOLLOW);
+            }) < 0)
+            falhar(errno);
+    }
+
+    /// What `criação` gives for a name that is free; that name is the file's from then on.
+    template <class Criação>
+    int comNomeNovo(const Criação& criação) {
+        for (int tentativas = 100; tentativas > 0; --tentativas) {
+            auto nome = (pasta_ / sortearNome()).string();
+            const int resultado = criação(nome.c_str());
+            if (resultado >= 0) nome_ = std::move(nome);
+            if (resultado >= 0 || errno != EEXIST) return resultado;
+        }
+        return -1;
+    }
+
+    fs::path pasta_;
+    std::string nome_;
+    Descritor arquivo_;
+};
+
 } // namespace
+
+void falharNoLimiteDeTamanho() { std::signal(SIGXFSZ, SIG_IGN); }
 
 std::string decodificar(std::string_view bytes) {
     if (éUtf8(bytes)) {
@@ -202,30 +305,28 @@ std::string LeitorDeLinhas::próxima() {
 }
 
 void gravarTexto(const std::string& caminho, std::string_view texto) {
-    const auto caminhoReal = destino(caminho);
-    const auto alvo = caminhoReal.string();
+    const auto alvo = destino(caminho);
     struct stat antigo {};
     const bool existe = ::stat(alvo.c_str(), &antigo) == 0;
+    if (!existe && errno != ENOENT) falhar(errno);
     if (existe && S_ISDIR(antigo.st_mode)) falhar(EISDIR);
     if (existe && !S_ISREG(antigo.st_mode)) falhar(EINVAL);
     if (existe && ::access(alvo.c_str(), W_OK) != 0) falhar(errno);
 
-    std::string provisório = (caminhoReal.parent_path() / ".varenta-XXXXXX").string();
-    Descritor arquivo{::mkostemp(provisório.data(), O_CLOEXEC)};
-    try {
-        // mkostemp keeps a new file to its owner: give it the old file's rights, or those of any new file.
-        const mode_t máscara = ::umask(0);
-        ::umask(máscara);
-        if (::fchmod(arquivo.número(), existe ? antigo.st_mode & 07777u : 0666u & ~máscara) != 0)
-            falhar(errno);
-        escreverTudo(arquivo.número(), texto);
-        if (::fsync(arquivo.número()) != 0) falhar(errno);
-        if (!arquivo.fechar()) falhar(errno);
-        if (::rename(provisório.c_str(), alvo.c_str()) != 0) falhar(errno);
-    } catch (...) {
-        ::unlink(provisório.c_str());
-        throw;
-    }
+    const auto pasta = alvo.has_parent_path() ? alvo.parent_path() : fs::path{"."};
+    varrerRestos(pasta);
+    // A provisional file is its owner's alone: give it the old file's rights, or those of any new file.
+    const mode_t máscara = ::umask(0);
+    ::umask(máscara);
+    Provisório novo{pasta};
+    novo.escrever(texto, existe ? antigo.st_mode & 07777u : 0666u & ~máscara);
+    novo.tomarOLugarDe(alvo);
+    // The new file is whole and has its name. If the disk lost power before the folder's change reached it,
+    // the old one would be back, whole too: so a folder that can't be synchronised is no failure of the save.
+    const int aberta = ::open(pasta.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (aberta < 0) return;
+    const Descritor fechaNoFim{aberta};
+    ::fsync(aberta);
 }
 
 } // namespace varenta

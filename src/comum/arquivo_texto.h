@@ -33,6 +33,10 @@ class LeitorDeLinhas {
     std::size_t posição_ = 0;
 };
 
+/// From then on a write past the file size that the user was granted fails like one on a full disk, where it
+/// would end the program otherwise. For the start of a program.
+void falharNoLimiteDeTamanho();
+
 /// Writes `texto` (UTF-8, lines ended by CR LF) in place of the file. The new file takes the old one's name
 /// only when it is whole and safely on disk; on failure the old file stays as it was, nothing else is left
 /// behind, and a run-time error tells the reason in Portuguese.

@@ -4,12 +4,17 @@
 #include "comum/operacoes.h"
 #include "comum/planilha.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace varenta {
 
-void devolverPonteiros() {
+void retomar() {
     for (auto* tela : TelaBase::todas()) tela->ponteiro = Ponteiro::padrão;
+    if (telaPrincipal && std::ranges::none_of(TelaBase::todas(), [](const TelaBase* tela) {
+            return tela->carregada() && tela->visivel && tela->habilitada;
+        }))
+        voltarAoMenu();
 }
 
 namespace atos {

@@ -26,8 +26,9 @@ struct Alvo {
     std::string nomeCompleto() const { return tela->nome() + "." + elemento.nomeCompleto(); }
 };
 
-/// Gives every screen its default pointer back.
-void devolverPonteiros();
+/// Lets a person go on after an operation that was cut short: every screen has its default pointer again, and
+/// if none is left in sight, the main window is.
+void retomar();
 
 /// Runs an operation that a person started. A run-time error, or memory running out, ends it here and is told
 /// to the person; the program goes on.
@@ -41,8 +42,11 @@ void executarAto(Operação&& operação) {
         erro = e.what();
     } catch (const std::bad_alloc&) {
         erro = memóriaInsuficiente;
+    } catch (const std::length_error&) {
+        // More elements than any memory holds.
+        erro = memóriaInsuficiente;
     }
-    devolverPonteiros();
+    retomar();
     plataforma::erroDeExecucao(erro);
 }
 

@@ -8,8 +8,7 @@
 namespace varenta {
 
 std::size_t Grade::posição(int linha, int coluna) const {
-    if (linha < 0 || linha >= linhas || coluna < 0 || coluna >= colunas)
-        throw ErroExecucao{índiceForaDosLimites};
+    exigirÍndice(linha >= 0 && linha < linhas && coluna >= 0 && coluna < colunas);
     return static_cast<std::size_t>(linha) * static_cast<std::size_t>(colunas) +
            static_cast<std::size_t>(coluna);
 }
@@ -24,16 +23,19 @@ void Grade::escrever(int linha, int coluna, std::string texto) {
 void Grade::dimensionar(int novasLinhas, int novasColunas) {
     if (novasLinhas < 1 || novasColunas < 1) throw ErroExecucao{valorDePropriedadeInválido};
     if (std::int64_t{novasLinhas} * novasColunas > maisCélulas) throw ErroExecucao{memóriaInsuficiente};
-    std::vector<std::string> novas(static_cast<std::size_t>(novasLinhas) *
-                                   static_cast<std::size_t>(novasColunas));
+    const auto lugar = [](int linha, int coluna, int largura) {
+        return static_cast<std::size_t>(linha) * static_cast<std::size_t>(largura) +
+               static_cast<std::size_t>(coluna);
+    };
+    // All memory is taken before anything changes: where there is none, the grid stays as it was.
+    std::vector<std::string> novas(lugar(novasLinhas, 0, novasColunas));
+    alinhamentos.resize(static_cast<std::size_t>(novasColunas), Alinhamento::esquerda);
     for (int l = 0; l < std::min(linhas, novasLinhas); ++l)
         for (int c = 0; c < std::min(colunas, novasColunas); ++c)
-            novas[static_cast<std::size_t>(l) * static_cast<std::size_t>(novasColunas) +
-                  static_cast<std::size_t>(c)] = std::move(células[posição(l, c)]);
+            novas[lugar(l, c, novasColunas)] = std::move(células[lugar(l, c, colunas)]);
     células = std::move(novas);
     linhas = novasLinhas;
     colunas = novasColunas;
-    alinhamentos.resize(static_cast<std::size_t>(colunas), Alinhamento::esquerda);
     linhaAtual = std::min(linhaAtual, linhas - 1);
     colunaAtual = std::min(colunaAtual, colunas - 1);
     versão = novaVersão();

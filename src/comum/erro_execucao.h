@@ -21,10 +21,13 @@ inline constexpr const char* valorDePropriedadeInválido = "Valor de propriedade
 inline constexpr const char* argumentoInválido = "Chamada de procedimento ou argumento inválido";
 inline constexpr const char* memóriaInsuficiente = "Memória insuficiente";
 
+/// Raises "Índice fora dos limites" unless the index at hand lies within its limits.
+void exigirÍndice(bool dentroDosLimites);
+
 /// The element `índice` of `sequência`. Raises "Índice fora dos limites" where there is none.
 template <class Sequência>
 auto& elemento(Sequência& sequência, std::size_t índice) {
-    if (índice >= sequência.size()) throw ErroExecucao{índiceForaDosLimites};
+    exigirÍndice(índice < sequência.size());
     return sequência[índice];
 }
 

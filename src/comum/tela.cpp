@@ -25,7 +25,14 @@ void TelaBase::carregar() {
     visivel = false;
     habilitada = true;
     ponteiro = Ponteiro::padrão;
-    if (eventos_.aoCarregar) eventos_.aoCarregar();
+    if (!eventos_.aoCarregar) return;
+    try {
+        eventos_.aoCarregar();
+    } catch (...) {
+        // Half a screen would be taken for a whole one from then on.
+        destruir();
+        throw;
+    }
 }
 
 void TelaBase::descarregar() {

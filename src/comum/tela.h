@@ -36,7 +36,8 @@ class TelaBase {
     const EventosTela& eventos() const { return eventos_; }
 
     virtual bool carregada() const = 0;
-    /// Creates the screen with its defaults, hidden; nothing if it is loaded already.
+    /// Creates the screen with its defaults, hidden; nothing if it is loaded already. Where its handler of
+    /// loading raises an error, that error passes on and the screen isn't loaded.
     void carregar();
     /// Discards the screen with all that it holds; nothing if it isn't loaded.
     void descarregar();

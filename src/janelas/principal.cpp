@@ -1,3 +1,4 @@
+#include "comum/arquivo_texto.h"
 #include "janelas/aplicacao.h"
 #include "janelas/janelas.h"
 #include "janelas/roteiro_janelas.h"
@@ -66,6 +67,7 @@ std::optional<Argumentos> lerArgumentos(const QStringList& palavras) {
 } // namespace
 
 int main(int argc, char** argv) {
+    varenta::falharNoLimiteDeTamanho();
     if (responderSemTela(argc, argv)) return std::cout.flush() ? 0 : 1;
     Aplicacao aplicação{argc, argv};
     const auto argumentos = lerArgumentos(Aplicacao::arguments());

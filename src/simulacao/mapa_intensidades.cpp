@@ -37,7 +37,7 @@ Matriz amostrarAoLongo(const CampoDeIntensidades& campo, const std::vector<doubl
         double u = posicao[0];
         std::size_t c = 0;
         for (std::size_t k = 0; k + 1 < N; ++k) do {
-                if (c >= ladoDoMapa) throw ErroExecucao{índiceForaDosLimites};
+                exigirÍndice(c < ladoDoMapa);
                 const double de = M.linha(k)[i], até = M.linha(k + 1)[i];
                 T.linha(c)[i] = de + ((até - de) * (u - posicao[k])) / campo.S;
                 u += passo;
@@ -55,7 +55,7 @@ Matriz amostrarAtravés(const CampoDeIntensidades& campo, const Matriz& T, doubl
         double w = campo.limite();
         std::size_t r = 0;
         for (std::size_t k = 0; k + 1 < N; ++k) do {
-                if (r >= ladoDoMapa) throw ErroExecucao{índiceForaDosLimites};
+                exigirÍndice(r < ladoDoMapa);
                 const double de = T.linha(c)[k], até = T.linha(c)[k + 1];
                 Z.linha(c)[r] = até + ((de - até) * (w - posição(k + 1))) / campo.S;
                 w -= passo;

@@ -73,8 +73,7 @@ BandasDaFaixa bandasDaFaixa(int N, double s, double R, double Cc, double de, dou
 Estatísticas estatísticasDaBanda(const Faixa& faixa, int b0, int b1) {
     std::vector<double> valores;
     for (int a = b0; a <= b1; ++a) {
-        if (a < 1 || static_cast<std::size_t>(a) > faixa.lâminas.linhas())
-            throw ErroExecucao{índiceForaDosLimites};
+        exigirÍndice(a >= 1 && static_cast<std::size_t>(a) <= faixa.lâminas.linhas());
         const auto linha = faixa.lâminas.linha(static_cast<std::size_t>(a) - 1);
         valores.insert(valores.end(), linha.begin(), linha.end());
     }

@@ -246,7 +246,7 @@ class DiscoCheio {
   public:
     explicit DiscoCheio(rlim_t bytes) {
         ::getrlimit(RLIMIT_FSIZE, &limite_);
-        sinal_ = std::signal(SIGXFSZ, SIG_IGN);
+        falharNoLimiteDeTamanho();
         const rlimit curto{bytes, limite_.rlim_max};
         ::setrlimit(RLIMIT_FSIZE, &curto);
     }
@@ -254,12 +254,11 @@ class DiscoCheio {
     DiscoCheio& operator=(const DiscoCheio&) = delete;
     ~DiscoCheio() {
         ::setrlimit(RLIMIT_FSIZE, &limite_);
-        std::signal(SIGXFSZ, sinal_);
+        std::signal(SIGXFSZ, SIG_DFL);
     }
 
   private:
     rlimit limite_{};
-    void (*sinal_)(int) = nullptr;
 };
 
 TEST(GravarTexto, EscritaInterrompidaDeixaOArquivoVelhoInteiro) {

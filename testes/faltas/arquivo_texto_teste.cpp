@@ -1,0 +1,194 @@
+#include "comum/arquivo_texto.h"
+
+#include "apoio/atalhos.h"
+#include "apoio/pasta_temporaria.h"
+#include "faltas/chamadas_do_sistema.h"
+
+#include <gtest/gtest.h>
+
+#include <cerrno>
+#include <chrono>
+#include <csignal>
+#include <random>
+#include <thread>
+
+#include <fcntl.h>
+#include <sys/file.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace varenta {
+namespace {
+
+namespace fs = std::filesystem;
+using teste::erroDe;
+using teste::FalhaDaChamada;
+using teste::PastaTemporaria;
+
+/// A save over `velho.txt` (or of a new file) with the n-th call failing, for every n until none is left.
+/// Returns the names of the calls that were seen to fail.
+std::set<std::string> gravarComCadaFalha(int erro, const std::string& motivo, bool existe) {
+    const std::string velho = "velho", novo(10'000, 'n');
+    std::set<std::string> falhas;
+    for (int n = 1;; ++n) {
+        const PastaTemporaria pasta;
+        if (existe) pasta.gravar("a.txt", velho);
+        std::string dito, qual;
+        {
+            const FalhaDaChamada falha{n, erro};
+            dito = erroDe([&] { gravarTexto(pasta.caminho("a.txt"), novo); });
+            qual = falha.qualFalhou();
+        }
+        if (qual.empty()) {
+            EXPECT_EQ(dito, "");
+            EXPECT_EQ(pasta.bytes("a.txt"), novo);
+            return falhas;
+        }
+        falhas.insert(qual);
+        // Whatever failed: the file is what the answer tells, and nothing else is in the folder.
+        const bool gravado = dito.empty();
+        EXPECT_EQ(dito, gravado ? "" : motivo) << n << " " << qual;
+        EXPECT_EQ(pasta.bytes("a.txt"), gravado ? novo : existe ? velho : "") << n << " " << qual;
+        EXPECT_EQ(pasta.nomes(), gravado || existe ? std::set<std::string>{"a.txt"} : std::set<std::string>{})
+            << n << " " << qual;
+    }
+}
+
+TEST(GravarTextoComFalhas, CadaChamadaQueFalhaDeixaOVelhoOuONovoInteiroEARespostaCerta) {
+    const auto falhas = gravarComCadaFalha(EIO, "falha do disco", true);
+    // A file that is there already goes through all of them.
+    EXPECT_EQ(falhas, (std::set<std::string>{"stat", "access", "open", "flock", "fchmod", "write", "fsync",
+                                             "linkat", "close", "rename"}));
+}
+
+TEST(GravarTextoComFalhas, UmArquivoNovoNãoNascePelaMetade) {
+    gravarComCadaFalha(ENOSPC, "não há espaço no disco", false);
+    gravarComCadaFalha(EROFS, "o disco só admite leitura", false);
+}
+
+TEST(LerTextoComFalhas, CadaChamadaQueFalhaÉDita) {
+    const PastaTemporaria pasta;
+    const auto caminho = pasta.gravar("a.txt", "lido");
+    std::set<std::string> falhas;
+    for (int n = 1;; ++n) {
+        std::string lido, dito, qual;
+        {
+            const FalhaDaChamada falha{n, EIO};
+            dito = erroDe([&] { lido = lerTexto(caminho); });
+            qual = falha.qualFalhou();
+        }
+        if (qual.empty()) break;
+        falhas.insert(qual);
+        // What was read is there whatever closing the file reports.
+        EXPECT_EQ(dito, qual == "close" ? "" : "falha do disco") << qual;
+        EXPECT_EQ(lido, qual == "close" ? "lido" : "") << qual;
+    }
+    EXPECT_EQ(falhas, (std::set<std::string>{"open", "fstat", "read", "close"}));
+}
+
+/// Runs `ação` in a process of its own and returns what it exits with.
+template <class Ação>
+int emOutroProcesso(const Ação& ação) {
+    const auto filho = ::fork();
+    if (filho == 0) ::_exit(ação());
+    int estado = 0;
+    ::waitpid(filho, &estado, 0);
+    return WIFEXITED(estado) ? WEXITSTATUS(estado) : -1;
+}
+
+TEST(GravarTextoComFalhas, UmaPastaSóDeLeituraFicaComoEstá) {
+    const PastaTemporaria pasta;
+    const auto caminho = pasta.gravar("a.txt", "velho");
+    fs::permissions(caminho, fs::perms{0666});
+    fs::permissions(pasta.caminho(""), fs::perms{0555});
+    // The superuser may write anywhere: somebody else has to try.
+    const int resultado = emOutroProcesso([&] {
+        if (::getuid() == 0 && (::setgid(65534) != 0 || ::setuid(65534) != 0)) return 3;
+        return erroDe([&] { gravarTexto(caminho, "novo"); }) == "permissão negada" &&
+                       erroDe([&] { gravarTexto(pasta.caminho("outro.txt"), "novo"); }) == "permissão negada"
+                   ? 0
+                   : 1;
+    });
+    fs::permissions(pasta.caminho(""), fs::perms{0755});
+    EXPECT_EQ(resultado, 0);
+    EXPECT_EQ(pasta.bytes("a.txt"), "velho");
+    EXPECT_EQ(pasta.nomes(), std::set<std::string>{"a.txt"});
+}
+
+TEST(GravarTextoComFalhas, UmaPastaQueSumiuÉDita) {
+    const PastaTemporaria pasta;
+    fs::create_directory(pasta.caminho("some"));
+    fs::current_path(pasta.caminho("some"));
+    fs::remove(pasta.caminho("some"));
+    const auto dito = erroDe([] { gravarTexto("a.txt", "novo"); });
+    fs::current_path(fs::temp_directory_path());
+    EXPECT_EQ(dito, "o arquivo ou a pasta não existe");
+}
+
+TEST(GravarTextoComFalhas, MortoEmQualquerPontoDeixaUmArquivoInteiroENenhumResto) {
+    const std::string um(200'000, '1'), dois(300'000, '2');
+    const PastaTemporaria pasta;
+    const auto caminho = pasta.gravar("a.txt", um);
+    std::mt19937 sorteio{20};
+    std::uniform_int_distribution<int> espera{0, 3000};
+    for (int n = 0; n < 200; ++n) {
+        const auto filho = ::fork();
+        if (filho == 0)
+            for (;;) {
+                gravarTexto(caminho, dois);
+                gravarTexto(caminho, um);
+            }
+        std::this_thread::sleep_for(std::chrono::microseconds{espera(sorteio)});
+        ::kill(filho, SIGKILL);
+        int estado = 0;
+        ::waitpid(filho, &estado, 0);
+        ASSERT_TRUE(WIFSIGNALED(estado) && WTERMSIG(estado) == SIGKILL);
+        const auto ficou = pasta.bytes("a.txt");
+        ASSERT_TRUE(ficou == um || ficou == dois) << "of " << ficou.size() << " bytes, at " << n;
+    }
+    // One killed between naming and renaming leaves a hidden file, which the next save takes away.
+    gravarTexto(caminho, um);
+    EXPECT_EQ(pasta.nomes(), std::set<std::string>{"a.txt"});
+}
+
+TEST(GravarTextoComFalhas, SóOQueNinguémUsaÉVarrido) {
+    const PastaTemporaria pasta;
+    pasta.gravar(".varenta-abc123", "left behind");
+    pasta.gravar(".varenta-notas", "the user's own");
+    pasta.gravar(".varenta-abc1234", "the user's own");
+    fs::create_directory(pasta.caminho(".varenta-pasta1"));
+    // Another program's save, in the middle of its work.
+    const int alheio = ::open(pasta.gravar(".varenta-def456", "being written").c_str(), O_RDONLY | O_CLOEXEC);
+    ASSERT_EQ(::flock(alheio, LOCK_EX), 0);
+    gravarTexto(pasta.caminho("a.txt"), "novo");
+    EXPECT_EQ(pasta.nomes(), (std::set<std::string>{"a.txt", ".varenta-notas", ".varenta-abc1234",
+                                                    ".varenta-pasta1", ".varenta-def456"}));
+    ::close(alheio);
+}
+
+TEST(GravarTextoComFalhas, DoisQueGravamAoMesmoTempoNãoSePerturbam) {
+    const PastaTemporaria pasta;
+    const std::string um(50'000, '1'), dois(50'000, '2');
+    const auto gravarMuito = [&](const char* nome, const std::string& texto) {
+        const auto filho = ::fork();
+        if (filho == 0) {
+            for (int n = 0; n < 100; ++n)
+                if (!erroDe([&] { gravarTexto(pasta.caminho(nome), texto); }).empty()) ::_exit(1);
+            ::_exit(0);
+        }
+        return filho;
+    };
+    const auto primeiro = gravarMuito("a.txt", um), segundo = gravarMuito("b.txt", dois);
+    for (const auto filho : {primeiro, segundo}) {
+        int estado = 0;
+        ::waitpid(filho, &estado, 0);
+        EXPECT_TRUE(WIFEXITED(estado) && WEXITSTATUS(estado) == 0);
+    }
+    EXPECT_EQ(pasta.bytes("a.txt"), um);
+    EXPECT_EQ(pasta.bytes("b.txt"), dois);
+    EXPECT_EQ(pasta.nomes(), (std::set<std::string>{"a.txt", "b.txt"}));
+}
+
+} // namespace
+} // namespace varenta

@@ -1,0 +1,21 @@
+#pragma once
+
+#include <string>
+
+/// The system's calls that the core makes for files, counted, with one of them failing on demand.
+namespace varenta::teste {
+
+/// From its making to its end, the `n`-th call (from 1) fails with the number `erro`. A write that is to fail
+/// first takes half of what it gets; the one after it fails.
+class FalhaDaChamada {
+  public:
+    FalhaDaChamada(int n, int erro);
+    FalhaDaChamada(const FalhaDaChamada&) = delete;
+    FalhaDaChamada& operator=(const FalhaDaChamada&) = delete;
+    ~FalhaDaChamada();
+
+    /// The name of the call that failed; empty where fewer were made.
+    std::string qualFalhou() const;
+};
+
+} // namespace varenta::teste
