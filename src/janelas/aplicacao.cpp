@@ -3,6 +3,7 @@
 #include "comum/plataforma.h"
 #include "janelas/paletas.h"
 
+#include <QHash>
 #include <QIcon>
 #include <QLibraryInfo>
 #include <QStyleFactory>
@@ -15,6 +16,14 @@ static void carregarRecursos() {
     Q_INIT_RESOURCE(recursos);
     Q_INIT_RESOURCE(ajuda);
     Q_INIT_RESOURCE(telas_da_ajuda);
+}
+
+QString TraducaoQueFalta::translate(const char* contexto, const char* texto, const char*, int) const {
+    static const QHash<QByteArray, QString> tipos{
+        {"Folder", QStringLiteral("Pasta")},       {"File", QStringLiteral("Arquivo")},
+        {"%1 File", QStringLiteral("Arquivo %1")}, {"Drive", QStringLiteral("Unidade")},
+        {"Shortcut", QStringLiteral("Atalho")},    {"Unknown", QStringLiteral("Desconhecido")}};
+    return qstrcmp(contexto, "QAbstractFileIconProvider") == 0 ? tipos.value(texto) : QString{};
 }
 
 Aplicacao::Aplicacao(int& argc, char** argv) : QApplication{argc, argv} {
@@ -32,6 +41,7 @@ Aplicacao::Aplicacao(int& argc, char** argv) : QApplication{argc, argv} {
     setQuitOnLastWindowClosed(false);
     if (tradução_.load(QStringLiteral("qtbase_pt_BR"), QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
         installTranslator(&tradução_);
+    installTranslator(&traduçãoQueFalta_);
 }
 
 bool Aplicacao::notify(QObject* objeto, QEvent* evento) {

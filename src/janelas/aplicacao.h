@@ -3,6 +3,13 @@
 #include <QApplication>
 #include <QTranslator>
 
+/// What Qt's own translation leaves out of its file dialogs.
+class TraducaoQueFalta : public QTranslator {
+  public:
+    QString translate(const char* contexto, const char* texto, const char* distinção, int n) const override;
+    bool isEmpty() const override { return false; }
+};
+
 /// The application object: look, language of Qt's own texts, numbers that don't depend on the machine.
 class Aplicacao : public QApplication {
   public:
@@ -13,4 +20,5 @@ class Aplicacao : public QApplication {
 
   private:
     QTranslator tradução_;
+    TraducaoQueFalta traduçãoQueFalta_;
 };

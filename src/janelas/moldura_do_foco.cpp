@@ -4,6 +4,7 @@
 
 #include <QApplication>
 #include <QPainter>
+#include <QPushButton>
 #include <QScrollBar>
 #include <QTableView>
 
@@ -12,6 +13,7 @@ namespace {
 constexpr int espessura = 2;
 
 bool precisaDeMoldura(const QWidget* widget) {
+    if (const auto* botão = qobject_cast<const QPushButton*>(widget)) return botão->isDefault();
     return qobject_cast<const WidgetDesenho*>(widget) || qobject_cast<const QTableView*>(widget) ||
            qobject_cast<const QScrollBar*>(widget);
 }

@@ -3,7 +3,7 @@
 #include <QFocusFrame>
 
 /// Shows which control of a window has the keyboard, around those that the style leaves unmarked: drawings,
-/// tables and scroll bars.
+/// tables, scroll bars, and default buttons, which look alike with and without it.
 class MolduraDoFoco : public QFocusFrame {
   public:
     /// Belongs to the window.

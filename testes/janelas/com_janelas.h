@@ -17,7 +17,6 @@
 #include <gtest/gtest.h>
 
 #include <deque>
-#include <filesystem>
 #include <optional>
 #include <stdexcept>
 #include <string>
@@ -92,8 +91,7 @@ class ComJanelas : public testing::Test {
 
     /// The path of one of the sample files.
     static QString exemplo(const char* nome) {
-        return QString::fromStdString(
-            (std::filesystem::path{__FILE__}.parent_path() / "../../exemplos" / nome).string());
+        return QStringLiteral(PASTA_DE_EXEMPLOS) + QString::fromUtf8(nome);
     }
 
     static void moverMouse(QWidget& widget, QPointF ponto, Qt::MouseButtons botões = Qt::NoButton) {

@@ -10,7 +10,9 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDialogButtonBox>
+#include <QDir>
 #include <QFileDialog>
+#include <QFileIconProvider>
 #include <QGroupBox>
 #include <QHeaderView>
 #include <QLabel>
@@ -20,6 +22,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QRegularExpression>
+#include <QScreen>
 #include <QScrollBar>
 #include <QStyle>
 #include <QStyleOptionSlider>
@@ -492,6 +495,15 @@ TEST_F(MãosEOlhos, uma_janela_abre_onde_estava_a_última) {
     EXPECT_TRUE(perto(janela(form6).geometry().center(), meio));
 }
 
+TEST_F(MãosEOlhos, cada_janela_aparece_inteira_na_tela) {
+    const QRect disponível = QGuiApplication::primaryScreen()->availableGeometry();
+    if (disponível.width() < 1366) GTEST_SKIP() << "the screen is smaller than any that the windows are for";
+    for (auto* tela : telas()) {
+        const auto& janelaDaTela = mostrarSó(*tela);
+        EXPECT_TRUE(disponível.contains(janelaDaTela.frameGeometry())) << tela->nome();
+    }
+}
+
 TEST_F(MãosEOlhos, nenhum_texto_fica_cortado) {
     mostrarTodas();
     const auto cabe = [](const QWidget& widget, int largura, const QString& texto) {
@@ -574,6 +586,7 @@ TEST(Tradução, os_diálogos_do_Qt_falam_português) {
     QDialogButtonBox botões{QDialogButtonBox::Cancel | QDialogButtonBox::Discard};
     EXPECT_EQ(botões.button(QDialogButtonBox::Cancel)->text().remove(QLatin1Char{'&'}), "Cancelar");
     EXPECT_EQ(botões.button(QDialogButtonBox::Discard)->text().remove(QLatin1Char{'&'}), "Descartar");
+    EXPECT_EQ(QFileIconProvider{}.type(QFileInfo{QDir::tempPath()}), "Pasta");
     QFileDialog diálogo;
     diálogo.setOption(QFileDialog::DontUseNativeDialog);
     EXPECT_EQ(diálogo.labelText(QFileDialog::LookIn).remove(QLatin1Char{'&'}), "Procurar em:");
