@@ -115,18 +115,24 @@ Real dividirPeloFator(Real i, Real x, Real y, Real s2, const CondiçõesDoPonto&
     return i / produto;
 }
 
+/// What falls at the wind-frame point (x, y), at the distance r within the reach, without wind.
+double intensidadeSemVento(double x, double y, double r, const Senos& senos, const CondiçõesDoPonto& c) {
+    if (c.setor == ModoDoSetor::círculoInteiro) return intensidadeRelativa(c.intensidades, r / c.R);
+    const double xs = x * senos.cosseno + y * senos.seno;
+    const double ys = y * senos.cosseno - x * senos.seno;
+    if (c.setor == ModoDoSetor::semCunhaÀFrente)
+        return intensidadeSetor(c.intensidades, xs, ys, c.anguloGiro, c.R);
+    const double rho = distanciaNoSetor(c.anguloSecoI, c.anguloSecoII, c.rotacao, xs, ys, c.R) / c.R;
+    return rho == 0 ? 0 : perfilRadialEm(c.intensidades, rho, c.anguloGiro);
+}
+
 IntensidadeNoPonto avaliar(double x0, double y0, const Senos& senos, const CondiçõesDoPonto& c) {
     const double s2 = senos.s2;
     const auto [x, y, passes, convergiu] = resolver(x0, y0, s2, c);
     IntensidadeNoPonto ponto{0, passes, convergiu, true};
     const double r = std::sqrt(finito(x * x + y * y));
     if (r >= c.R) return ponto;
-    const double xs = x * senos.cosseno + y * senos.seno;
-    const double ys = y * senos.cosseno - x * senos.seno;
-    const double d = distanciaNoSetor(c.anguloSecoI, c.anguloSecoII, c.rotacao, xs, ys, c.R);
-    const double rho = d / c.R;
-    if (rho == 0) return ponto;
-    const double i = perfilRadialEm(c.intensidades, rho, c.anguloGiro);
+    const double i = intensidadeSemVento(x, y, r, senos, c);
     if (i == 0) return ponto;
     double fator = 0;
     ponto.valor = dividirPeloFator<double>(i, x, y, s2, c, fator);
@@ -172,6 +178,20 @@ double distanciaNoSetor(double anguloSecoI, double anguloSecoII, double rotacao,
     else if (rad1 < 0 && theta > rad1 + doisPiDoModelo)
         theta -= doisPiDoModelo;
     return theta >= rad1 && theta <= rad2 ? d : 0;
+}
+
+double intensidadeSetor(const PontosDoPerfil& intensidades, double u, double w, double anguloGiro, double R) {
+    const double beta = radianos((360 - anguloGiro) / 2);
+    double rho = 0;
+    if (u != 0) rho = std::sqrt(u * u + w * w);
+    if (u > 0) {
+        const double distância = std::fabs(w);
+        // In this order: at a full turn the first test keeps the tangent of 0 out of the second.
+        if (distância / R < std::sin(beta) && distância * (1 / std::tan(beta)) < std::fabs(u) &&
+            std::fabs(u) < std::sqrt(R * R - w * w))
+            rho = 5 * R;
+    }
+    return intensidadeRelativa(intensidades, rho / R) * dividir(360, anguloGiro);
 }
 
 IntensidadeNoPonto intensidadeEmPonto(double x0, double y0, const CondiçõesDoPonto& condições) {

@@ -33,6 +33,16 @@ inline double radianos(double graus) { return (graus * piDoModelo) / 180; }
 /// The turn of the wind frame for a wind from the bearing `direção` (degrees, 0 ahead, 90 right).
 inline double rotaçãoDoVento(double direção) { return doisPiDoModelo - radianos(direção); }
 
+/// Which of the water at rest a point can get.
+enum class ModoDoSetor {
+    /// That of the wetted sector between both dry angles, in the ground frame.
+    entreÂngulosSecos,
+    /// All: a full circle, whatever the angles.
+    círculoInteiro,
+    /// All but that of a wedge of 360 - `anguloGiro` degrees straight ahead, in the ground frame.
+    semCunhaÀFrente
+};
+
 /// One sprinkler under one wind. Angles of the sector in degrees, the others in radians.
 struct CondiçõesDoPonto {
     double R;
@@ -46,6 +56,7 @@ struct CondiçõesDoPonto {
     double anguloGiro;
     /// The 22 intensities (mm/h) of the full-circle radial profile.
     PontosDoPerfil intensidades;
+    ModoDoSetor setor = ModoDoSetor::entreÂngulosSecos;
 };
 
 struct PontoSemVento {
@@ -78,6 +89,12 @@ MatrizDoModelo matrizDoModelo(double x, double y, const CondiçõesDoPonto& cond
 /// ends included, and inside the reach R; otherwise 0. Angles in degrees. A point on an axis gives 0.
 double distanciaNoSetor(double anguloSecoI, double anguloSecoII, double rotacao, double xs, double ys,
                         double R);
+
+/// Intensity (mm/h) at the ground point (u, w) of a sprinkler of the reach R (m) at calm that turns through
+/// `anguloGiro` degrees, its dry wedge lying ahead, symmetric about the positive u axis: the full circle's,
+/// scaled by 360 / `anguloGiro`; 0 in the wedge and beyond the reach. A point with u of exactly 0 reads as
+/// the sprinkler's own place.
+double intensidadeSetor(const PontosDoPerfil& intensidades, double u, double w, double anguloGiro, double R);
 
 struct IntensidadeNoPonto {
     double valor; // mm/h

@@ -13,14 +13,18 @@ constexpr PontosDoPerfil limites = {0,     0.025, 0.075, 0.125, 0.175, 0.225, 0.
 
 } // namespace
 
-double perfilRadialEm(const PontosDoPerfil& intensidades, double rho, double anguloGiro) {
-    double i = 0;
-    for (std::size_t k = 0; k + 1 < pontosDoPerfil; ++k) {
-        if (!(rho >= limites[k] && rho < limites[k + 1])) continue;
-        const double largura = k == 0 || k == 20 ? 0.025 : 0.05;
-        i = (rho - limites[k]) * (intensidades[k + 1] - intensidades[k]) / largura + intensidades[k];
-        break;
+double intensidadeRelativa(const PontosDoPerfil& intensidades, double u) {
+    constexpr std::size_t último = pontosDoPerfil - 2;
+    for (std::size_t k = 0; k <= último; ++k) {
+        if (!(u >= limites[k] && (u < limites[k + 1] || (k == último && u == 1)))) continue;
+        const double largura = k == 0 || k == último ? 0.025 : 0.05;
+        return (u - limites[k]) * (intensidades[k + 1] - intensidades[k]) / largura + intensidades[k];
     }
+    return 0;
+}
+
+double perfilRadialEm(const PontosDoPerfil& intensidades, double rho, double anguloGiro) {
+    const double i = rho < 1 ? intensidadeRelativa(intensidades, rho) : 0;
     return i * dividir(360, anguloGiro);
 }
 

@@ -7,9 +7,12 @@
 
 namespace varenta {
 
+/// Intensity (mm/h) of a full circle at the relative distance `u` (distance / reach): straight lines between
+/// the 22 intensities of the profile; 0 where `u` is below 0 or above 1. The abscissae are fixed decimals.
+double intensidadeRelativa(const PontosDoPerfil& intensidades, double u);
+
 /// Intensity (mm/h) at the relative distance `rho` (distance / reach) of a sprinkler that turns through
-/// `anguloGiro` degrees: straight lines between the 22 intensities of its full-circle profile, scaled by
-/// 360 / `anguloGiro`; 0 where `rho` is below 0, and at 1 and beyond. The abscissae are fixed decimals.
+/// `anguloGiro` degrees: that of a full circle scaled by 360 / `anguloGiro`; 0 at 1, unlike there.
 /// Raises "Divisão por zero" for an angle of 0.
 double perfilRadialEm(const PontosDoPerfil& intensidades, double rho, double anguloGiro);
 
