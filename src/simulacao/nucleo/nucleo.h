@@ -40,6 +40,8 @@ struct SegmentosDoPerfil {
 struct PreparoDoLote {
     const CondiçõesDoPonto* condições;
     Senos senos;
+    /// The least x² + y² whose square root isn't below R.
+    double foraDoAlcance;
     /// Whether W, B, D, E, F, R and s2 have magnitudes that let known divisors do for true division.
     bool divisoresConhecidos;
     LimitesDoSetor setor;
@@ -48,8 +50,8 @@ struct PreparoDoLote {
     double escala; // 360 / `anguloGiro`, or 1 in the full circle
 };
 
-/// Makes ready what the kernels read. False where the conditions are none for them: the angle of turn has no
-/// finite scale.
+/// Makes ready what the kernels read. False where the conditions are none for them: no finite scale, or a
+/// reach whose square is none of a usual magnitude.
 bool preparar(const CondiçõesDoPonto& condições, const Senos& senos, PreparoDoLote& preparo);
 
 /// Evaluates the points (x[k], y[k]), 1 to `maiorBloco` of them, into i[k], and adds to `contagem`. False

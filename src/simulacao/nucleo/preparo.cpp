@@ -63,12 +63,21 @@ bool magnitudesUsuais(const CondiçõesDoPonto& c, double s2) {
     return std::fabs(c.A) <= 0x1p32 && std::fabs(c.C) <= 0x1p32;
 }
 
+double quadradoForaDoAlcance(double R) {
+    double r2 = R * R;
+    while (std::sqrt(r2) >= R) r2 = std::nextafter(r2, 0);
+    while (std::sqrt(r2) < R) r2 = std::nextafter(r2, std::numeric_limits<double>::infinity());
+    return r2;
+}
+
 } // namespace
 
 bool preparar(const CondiçõesDoPonto& c, const Senos& senos, PreparoDoLote& preparo) {
     const bool círculo = c.setor == ModoDoSetor::círculoInteiro;
     if (!círculo && !std::isfinite(360 / c.anguloGiro)) return false;
+    if (!(c.R >= 0x1p-500 && c.R <= 0x1p500)) return false;
     preparo.condições = &c;
+    preparo.foraDoAlcance = quadradoForaDoAlcance(c.R);
     preparo.senos = senos;
     preparo.divisoresConhecidos = magnitudesUsuais(c, senos.s2);
     preparo.perfil = segmentosDoPerfil(c.intensidades);

@@ -19,10 +19,11 @@
 #include "simulacao/equacoes_vento.h"
 #include "simulacao/nucleo/vetores/vetor.h"
 
+#include <type_traits>
+
 namespace varenta {
 namespace {
 
-using equações::Constantes;
 using equações::constantes;
 
 constexpr std::size_t vetoresDoBloco = maiorBloco / faixas;
@@ -36,59 +37,48 @@ struct Bloco {
     std::size_t n, vetores;
 };
 
-/// What the points of a block have in common, in vectors. `conhecidas` serves for points of usual magnitudes.
-struct ConstantesDoBloco {
-    Constantes<Vetor> verdadeiras;
-    Constantes<Vetor, DivisorConhecido> conhecidas;
-};
+/// The vectors that a pass takes at once. With 32 registers there is room for two, whose long chains of
+/// quotients then fill each other's gaps; with 16 they would be in each other's way.
+constexpr std::size_t juntos = VARENTA_BITS == 512 ? 2 : 1;
+using Grupo = std::conditional_t<juntos == 2, Dupla<Vetor>, Vetor>;
 
 struct Contas {
-    Vetor passes{0.0};
-    std::size_t semConvergência = 0, fatorNãoPositivo = 0;
-    /// Lanes whose determinant or area factor isn't finite.
+    std::size_t passes = 0, semConvergência = 0, fatorNãoPositivo = 0;
+    /// A determinant isn't finite.
     bool suspeito = false;
 };
-
-std::size_t quantas(Máscara m) { return static_cast<std::size_t>(__builtin_popcount(m.bits())); }
 
 void preencher(Bloco& b, const double* x, const double* y, std::size_t n) {
     b.n = n;
     b.vetores = (n + faixas - 1) / faixas;
-    for (std::size_t k = 0; k < b.vetores * faixas; ++k) {
-        const std::size_t de = k < n ? k : n - 1;
-        b.x0[k] = b.x[k] = x[de];
-        b.y0[k] = b.y[k] = y[de];
+    for (std::size_t k = 0; k < n; ++k) {
+        b.x0[k] = b.x[k] = x[k];
+        b.y0[k] = b.y[k] = y[k];
+    }
+    for (std::size_t k = n; k < b.vetores * faixas; ++k) {
+        b.x0[k] = b.x[k] = x[n - 1];
+        b.y0[k] = b.y[k] = y[n - 1];
     }
 }
 
 /// The lanes of vector `v` that are points of the block.
 Máscara ocupadas(const Bloco& b, std::size_t v) {
-    alignas(Registro) double lugar[faixas];
-    for (std::size_t l = 0; l < faixas; ++l) lugar[l] = static_cast<double>(v * faixas + l);
-    return Vetor::lido(lugar) < Vetor{static_cast<double>(b.n)};
+    static constexpr double lugares[16] = {0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15};
+    return Vetor::lido(lugares) < Vetor{static_cast<double>(b.n) - static_cast<double>(v * faixas)};
 }
 
 /// Whether x and y of all lanes lie within 2^-32 and 2^32 in magnitude. With the constants in that range too
-/// no quotient of the equations leaves 2^-400 to 2^400, and the determinant is finite.
+/// every quotient by a known divisor lies within 2^-200 and 2^200, and the determinant is finite.
 bool magnitudesUsuais(Vetor x, Vetor y) {
     constexpr double menor = 0x1p-64, maior = 0x1p64; // of the squares
     const Vetor x2 = x * x, y2 = y * y;
     return ((x2 >= Vetor{menor}) & (y2 >= Vetor{menor}) & (x2 + y2 <= Vetor{maior})).todas();
 }
 
-equações::Passe<Vetor> passe(const Bloco& b, std::size_t k, bool divisoresConhecidos,
-                             const ConstantesDoBloco& c, Contas& contas, Máscara ativas) {
-    const Vetor x = Vetor::lido(b.x + k), y = Vetor::lido(b.y + k);
-    const Vetor x0 = Vetor::lido(b.x0 + k), y0 = Vetor::lido(b.y0 + k);
-    if (divisoresConhecidos && magnitudesUsuais(x, y))
-        return equações::passeDeNewton(x, y, x0, y0, c.conhecidas);
-    const auto p = equações::passeDeNewton(x, y, x0, y0, c.verdadeiras);
-    contas.suspeito |= (ativas & !finitas(p.det)).alguma();
-    return p;
-}
-
 /// Stage 1: the solutions, in b.x and b.y.
-void resolver(Bloco& b, bool divisoresConhecidos, const ConstantesDoBloco& c, Contas& contas) {
+[[gnu::flatten]] void resolver(Bloco& b, const PreparoDoLote& p, Contas& contas) {
+    const auto verdadeiras = constantes<Grupo>(*p.condições, p.senos.s2);
+    const auto conhecidas = constantes<Grupo, DivisorConhecido<Grupo>>(*p.condições, p.senos.s2);
     Máscara ativas[vetoresDoBloco];
     std::size_t lista[vetoresDoBloco];
     std::size_t restam = b.vetores;
@@ -96,22 +86,37 @@ void resolver(Bloco& b, bool divisoresConhecidos, const ConstantesDoBloco& c, Co
         ativas[v] = ocupadas(b, v);
         lista[v] = v;
     }
-    const Vetor tolerância{equações::tolerância};
-    for (int passes = 0; passes < equações::limiteDePasses && restam > 0; ++passes) {
+    const auto dar = [&](std::size_t v, Vetor x, Vetor y, Vetor err) {
+        const std::size_t k = v * faixas;
+        onde(ativas[v], x, Vetor::lido(b.x + k)).gravar(b.x + k);
+        onde(ativas[v], y, Vetor::lido(b.y + k)).gravar(b.y + k);
+        contas.passes += ativas[v].quantas();
+        ativas[v] = ativas[v] & (err > Vetor{equações::tolerância});
+        lista[restam] = v;
+        restam += ativas[v].alguma();
+    };
+    for (int passe = 0; passe < equações::limiteDePasses && restam > 0; ++passe) {
         const std::size_t nesta = restam;
         restam = 0;
-        for (std::size_t p = 0; p < nesta; ++p) {
-            const std::size_t v = lista[p], k = v * faixas;
-            const auto fim = passe(b, k, divisoresConhecidos, c, contas, ativas[v]);
-            onde(ativas[v], fim.x, Vetor::lido(b.x + k)).gravar(b.x + k);
-            onde(ativas[v], fim.y, Vetor::lido(b.y + k)).gravar(b.y + k);
-            contas.passes = contas.passes + onde(ativas[v], 1.0, 0.0);
-            ativas[v] = ativas[v] & (fim.err > tolerância);
-            lista[restam] = v;
-            restam += ativas[v].alguma();
+        for (std::size_t n = 0; n < nesta; n += juntos) {
+            const bool sobra = n + juntos > nesta; // the last one goes with itself
+            const std::size_t v = lista[n], w = lista[sobra ? n : n + juntos - 1];
+            const auto lidos = [&](const double* linha) {
+                return Grupo::lidos(linha + v * faixas, linha + w * faixas);
+            };
+            const Grupo x = lidos(b.x), y = lidos(b.y), x0 = lidos(b.x0), y0 = lidos(b.y0);
+            const bool usuais = p.divisoresConhecidos && magnitudesUsuais(x.parte(0), y.parte(0)) &&
+                                magnitudesUsuais(x.parte(1), y.parte(1));
+            const auto fim = usuais ? equações::passeDeNewton(x, y, x0, y0, conhecidas)
+                                    : equações::passeDeNewton(x, y, x0, y0, verdadeiras);
+            if (!usuais)
+                contas.suspeito |= (ativas[v] & !finitas(fim.det.parte(0))).alguma() ||
+                                   (ativas[w] & !finitas(fim.det.parte(1))).alguma();
+            dar(v, fim.x.parte(0), fim.y.parte(0), fim.err.parte(0));
+            if (juntos == 2 && !sobra) dar(w, fim.x.parte(1), fim.y.parte(1), fim.err.parte(1));
         }
     }
-    for (std::size_t p = 0; p < restam; ++p) contas.semConvergência += quantas(ativas[lista[p]]);
+    for (std::size_t n = 0; n < restam; ++n) contas.semConvergência += ativas[lista[n]].quantas();
 }
 
 /// The lanes of `candidatas` whose ground point (xs, ys) lies in the wetted sector.
@@ -158,8 +163,7 @@ Vetor noPerfil(Vetor rho, const SegmentosDoPerfil& perfil) {
     return (rho - Vetor::lido(limite)) * Vetor::lido(variação) / Vetor::lido(largura) + Vetor::lido(início);
 }
 
-/// The relative distances of what the solutions (x, y) at the distances r, in the lanes of `dentro`, find of
-/// the radial profile, and the lanes that find any.
+/// What of the radial profile solutions find: the relative distance, in the lanes that find any.
 struct NoAlcance {
     Vetor rho;
     Máscara molhadas;
@@ -167,56 +171,64 @@ struct NoAlcance {
     bool suspeito;
 };
 
-NoAlcance localizar(Vetor x, Vetor y, Vetor r, Máscara dentro, const PreparoDoLote& p) {
+/// Of the solutions (x, y) at the squared distances r2, in the lanes of `dentro`, which are within the reach.
+NoAlcance localizar(Vetor x, Vetor y, Vetor r2, Máscara dentro, const PreparoDoLote& p) {
     const auto& c = *p.condições;
-    const Vetor R{c.R};
-    if (c.setor == ModoDoSetor::círculoInteiro) return {r / R, dentro, false};
+    const Vetor R{c.R}, zero{0.0}, um{1.0};
+    if (c.setor == ModoDoSetor::círculoInteiro) return {sqrt(r2) / R, dentro, false};
     const Vetor xs = x * Vetor{p.senos.cosseno} + y * Vetor{p.senos.seno};
     const Vetor ys = y * Vetor{p.senos.cosseno} - x * Vetor{p.senos.seno};
-    const Vetor d = sqrt(xs * xs + ys * ys);
+    const Vetor d2 = xs * xs + ys * ys;
     if (c.setor == ModoDoSetor::semCunhaÀFrente) {
         const Vetor lado = fabs(ys);
-        const Máscara seca = (xs > Vetor{0.0}) & (lado / R < Vetor{p.cunha.seno}) &
+        const Máscara seca = (xs > zero) & (lado / R < Vetor{p.cunha.seno}) &
                              (lado * Vetor{p.cunha.cotangente} < xs) & (xs < sqrt(R * R - ys * ys));
-        const Vetor rho = onde(xs == Vetor{0.0}, 0.0, d / R);
-        return {rho, dentro & !seca & (rho <= Vetor{1.0}), false};
+        const Vetor rho = onde(xs == zero, zero, sqrt(d2) / R);
+        return {rho, dentro & !seca & (rho <= um), false};
     }
-    const Vetor rho = d / R;
-    dentro = dentro & (d < R) & (rho > Vetor{0.0}) & (rho < Vetor{1.0});
-    const bool suspeito = (dentro & (fabs(ys) < Vetor{0x1p-900})).alguma();
-    return {rho, suspeito ? dentro : noSetor(xs, ys, dentro, p), suspeito};
+    dentro = dentro & (d2 < Vetor{p.foraDoAlcance});
+    if ((dentro & (fabs(ys) < Vetor{0x1p-900})).alguma()) return {zero, dentro, true};
+    dentro = noSetor(xs, ys, dentro, p);
+    if (!dentro.alguma()) return {zero, dentro, false};
+    const Vetor rho = sqrt(d2) / R;
+    return {rho, dentro & (rho > zero) & (rho < um), false};
 }
 
-template <class Divisor>
-Vetor fatorDeÁrea(Vetor x, Vetor y, const Constantes<Vetor, Divisor>& c) {
+/// J11 J22 of the solutions.
+template <class Constantes>
+Vetor fatorDeÁrea(Vetor x, Vetor y, const Constantes& c) {
     const auto t = equações::termos(x, y, c);
     return equações::derivada11(x, t, c) * equações::derivada22(y, t, c);
 }
 
-/// Stage 2 for vector `v`: the intensities, in b.i. False where something isn't finite.
-bool avaliar(Bloco& b, std::size_t v, const PreparoDoLote& p, const ConstantesDoBloco& c, Contas& contas) {
-    const std::size_t k = v * faixas;
+/// Stage 2: the intensities, in b.i. False where something isn't finite.
+[[gnu::flatten]] bool avaliar(Bloco& b, const PreparoDoLote& p, Contas& contas) {
+    const auto verdadeiras = constantes<Vetor>(*p.condições, p.senos.s2);
+    const auto conhecidas = constantes<Vetor, DivisorConhecido<Vetor>>(*p.condições, p.senos.s2);
     const Vetor zero{0.0};
-    zero.gravar(b.i + k);
-    const Máscara pontos = ocupadas(b, v);
-    const Vetor x = Vetor::lido(b.x + k), y = Vetor::lido(b.y + k);
-    const Vetor r2 = x * x + y * y;
-    if ((pontos & !finitas(r2)).alguma()) return false;
-    const Vetor r = sqrt(r2);
-    const Máscara dentro = pontos & (r < Vetor{p.condições->R});
-    if (!dentro.alguma()) return true;
-    const auto lugar = localizar(x, y, r, dentro, p);
-    if (lugar.suspeito) return false;
-    if (!lugar.molhadas.alguma()) return true;
-    const Vetor i = noPerfil(onde(lugar.molhadas, lugar.rho, zero), p.perfil) * Vetor{p.escala};
-    const Máscara molhadas = lugar.molhadas & !(i == zero);
-    if (!molhadas.alguma()) return true;
-    const Vetor fator = p.divisoresConhecidos && magnitudesUsuais(x, y) ? fatorDeÁrea(x, y, c.conhecidas)
-                                                                        : fatorDeÁrea(x, y, c.verdadeiras);
-    const Vetor valor = i / fator;
-    onde(molhadas, valor, zero).gravar(b.i + k);
-    contas.fatorNãoPositivo += quantas(molhadas & !(fator > zero));
-    return !(molhadas & !(finitas(valor) & finitas(fator))).alguma();
+    for (std::size_t v = 0; v < b.vetores; ++v) {
+        const std::size_t k = v * faixas;
+        zero.gravar(b.i + k);
+        const Máscara pontos = ocupadas(b, v);
+        const Vetor x = Vetor::lido(b.x + k), y = Vetor::lido(b.y + k);
+        const Vetor r2 = x * x + y * y;
+        if ((pontos & !finitas(r2)).alguma()) return false;
+        const Máscara dentro = pontos & (r2 < Vetor{p.foraDoAlcance});
+        if (!dentro.alguma()) continue;
+        const auto lugar = localizar(x, y, r2, dentro, p);
+        if (lugar.suspeito) return false;
+        if (!lugar.molhadas.alguma()) continue;
+        const Vetor i = noPerfil(onde(lugar.molhadas, lugar.rho, zero), p.perfil) * Vetor{p.escala};
+        const Máscara molhadas = lugar.molhadas & !(i == zero);
+        if (!molhadas.alguma()) continue;
+        const Vetor fator = p.divisoresConhecidos && magnitudesUsuais(x, y) ? fatorDeÁrea(x, y, conhecidas)
+                                                                            : fatorDeÁrea(x, y, verdadeiras);
+        const Vetor valor = i / fator;
+        if ((molhadas & !(finitas(valor) & finitas(fator))).alguma()) return false;
+        onde(molhadas, valor, zero).gravar(b.i + k);
+        contas.fatorNãoPositivo += (molhadas & !(fator > zero)).quantas();
+    }
+    return true;
 }
 
 } // namespace
@@ -224,22 +236,15 @@ bool avaliar(Bloco& b, std::size_t v, const PreparoDoLote& p, const ConstantesDo
 template <>
 bool avaliarBloco<VARENTA_BITS>(const PreparoDoLote& preparo, const double* x, const double* y, double* i,
                                 std::size_t n, ContagemDoModelo& contagem) {
-    const auto& condições = *preparo.condições;
-    const ConstantesDoBloco c{constantes<Vetor>(condições, preparo.senos.s2),
-                              constantes<Vetor, DivisorConhecido>(condições, preparo.senos.s2)};
     Bloco b;
     preencher(b, x, y, n);
     Contas contas;
-    resolver(b, preparo.divisoresConhecidos, c, contas);
-    if (contas.suspeito) return false;
-    for (std::size_t v = 0; v < b.vetores; ++v)
-        if (!avaliar(b, v, preparo, c, contas)) return false;
+    resolver(b, preparo, contas);
+    if (contas.suspeito || !avaliar(b, preparo, contas)) return false;
 
     for (std::size_t k = 0; k < n; ++k) i[k] = b.i[k];
-    alignas(Registro) double passes[faixas];
-    contas.passes.gravar(passes);
-    for (const double p : passes) contagem.passes += static_cast<std::size_t>(p);
     contagem.pontos += n;
+    contagem.passes += contas.passes;
     contagem.semConvergência += contas.semConvergência;
     contagem.fatorNãoPositivo += contas.fatorNãoPositivo;
     contagem.emVetores += n;

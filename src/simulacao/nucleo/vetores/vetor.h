@@ -23,7 +23,6 @@ inline void gravar(double* em, Registro a) { _mm512_storeu_pd(em, a); }
 inline Registro raiz(Registro a) { return _mm512_maskz_sqrt_pd(0xff, a); }
 inline Registro módulo(Registro a) { return _mm512_abs_pd(a); }
 inline Registro vezesMais(Registro a, Registro b, Registro c) { return _mm512_fmadd_pd(a, b, c); }
-inline Registro menosVezes(Registro a, Registro b, Registro c) { return _mm512_fnmadd_pd(a, b, c); }
 inline Marcas menor(Registro a, Registro b) { return _mm512_cmp_pd_mask(a, b, _CMP_LT_OQ); }
 inline Marcas menorOuIgual(Registro a, Registro b) { return _mm512_cmp_pd_mask(a, b, _CMP_LE_OQ); }
 inline Marcas igual(Registro a, Registro b) { return _mm512_cmp_pd_mask(a, b, _CMP_EQ_OQ); }
@@ -32,6 +31,7 @@ inline Marcas ou(Marcas a, Marcas b) { return a | b; }
 inline Marcas ouUm(Marcas a, Marcas b) { return a ^ b; }
 inline Marcas não(Marcas a) { return static_cast<Marcas>(~a); }
 inline unsigned emBits(Marcas a) { return a; }
+inline unsigned contar(Marcas a) { return static_cast<unsigned>(__builtin_popcount(a)); }
 inline Registro escolher(Marcas m, Registro sim, Registro não) { return _mm512_mask_blend_pd(m, não, sim); }
 #elif VARENTA_BITS == 256
 using Registro = __m256d;
@@ -42,7 +42,6 @@ inline void gravar(double* em, Registro a) { _mm256_storeu_pd(em, a); }
 inline Registro raiz(Registro a) { return _mm256_sqrt_pd(a); }
 inline Registro módulo(Registro a) { return _mm256_andnot_pd(_mm256_set1_pd(-0.0), a); }
 inline Registro vezesMais(Registro a, Registro b, Registro c) { return _mm256_fmadd_pd(a, b, c); }
-inline Registro menosVezes(Registro a, Registro b, Registro c) { return _mm256_fnmadd_pd(a, b, c); }
 inline Marcas menor(Registro a, Registro b) { return _mm256_cmp_pd(a, b, _CMP_LT_OQ); }
 inline Marcas menorOuIgual(Registro a, Registro b) { return _mm256_cmp_pd(a, b, _CMP_LE_OQ); }
 inline Marcas igual(Registro a, Registro b) { return _mm256_cmp_pd(a, b, _CMP_EQ_OQ); }
@@ -51,6 +50,7 @@ inline Marcas ou(Marcas a, Marcas b) { return _mm256_or_pd(a, b); }
 inline Marcas ouUm(Marcas a, Marcas b) { return _mm256_xor_pd(a, b); }
 inline Marcas não(Marcas a) { return _mm256_xor_pd(a, _mm256_cmp_pd(a, a, _CMP_TRUE_UQ)); }
 inline unsigned emBits(Marcas a) { return static_cast<unsigned>(_mm256_movemask_pd(a)); }
+inline unsigned contar(Marcas a) { return static_cast<unsigned>(__builtin_popcount(emBits(a))); }
 inline Registro escolher(Marcas m, Registro sim, Registro não) { return _mm256_blendv_pd(não, sim, m); }
 #else
 using Registro = __m128d;
@@ -68,6 +68,7 @@ inline Marcas ou(Marcas a, Marcas b) { return _mm_or_pd(a, b); }
 inline Marcas ouUm(Marcas a, Marcas b) { return _mm_xor_pd(a, b); }
 inline Marcas não(Marcas a) { return _mm_xor_pd(a, _mm_castsi128_pd(_mm_set1_epi32(-1))); }
 inline unsigned emBits(Marcas a) { return static_cast<unsigned>(_mm_movemask_pd(a)); }
+inline unsigned contar(Marcas a) { return (emBits(a) & 1) + (emBits(a) >> 1); }
 inline Registro escolher(Marcas m, Registro sim, Registro não) {
     return _mm_or_pd(_mm_and_pd(m, sim), _mm_andnot_pd(m, não));
 }
@@ -86,6 +87,7 @@ struct Máscara {
     /// The first lane in the lowest bit.
     unsigned bits() const { return emBits(m); }
     bool alguma() const { return bits() != 0; }
+    std::size_t quantas() const { return contar(m); }
     bool todas() const { return bits() == (1u << faixas) - 1; }
 };
 
@@ -98,6 +100,9 @@ struct Vetor {
     Vetor(double a) : v{repetir(a)} {}
 
     static Vetor lido(const double* de) { return ler(de); }
+    /// As of a `Dupla`, of which this is the one half that there is.
+    static Vetor lidos(const double* de, const double*) { return ler(de); }
+    Vetor parte(std::size_t) const { return *this; }
     void gravar(double* em) const { varenta::gravar(em, v); }
 
     friend Vetor operator-(Vetor a) { return -a.v; }
@@ -120,10 +125,38 @@ inline Vetor onde(Máscara m, Vetor sim, Vetor não) { return escolher(m.m, sim.
 /// Neither infinite nor NaN.
 inline Máscara finitas(Vetor a) { return a - a == Vetor{0.0}; }
 
+/// Two numbers as one: the operations of one fill the gaps that long chains of quotients leave in the
+/// other's.
+template <class Número>
+struct Dupla {
+    Número a, b;
+
+    Dupla(Número a_, Número b_) : a{a_}, b{b_} {}
+    Dupla(double x) : a{x}, b{x} {}
+
+    static Dupla lidos(const double* a, const double* b) { return {Número::lido(a), Número::lido(b)}; }
+    Número parte(std::size_t k) const { return k == 0 ? a : b; }
+
+    friend Dupla operator-(Dupla x) { return {-x.a, -x.b}; }
+    friend Dupla operator+(Dupla x, Dupla y) { return {x.a + y.a, x.b + y.b}; }
+    friend Dupla operator-(Dupla x, Dupla y) { return {x.a - y.a, x.b - y.b}; }
+    friend Dupla operator*(Dupla x, Dupla y) { return {x.a * y.a, x.b * y.b}; }
+    friend Dupla operator/(Dupla x, Dupla y) { return {x.a / y.a, x.b / y.b}; }
+    friend Dupla sqrt(Dupla x) { return {sqrt(x.a), sqrt(x.b)}; }
+    friend Dupla fabs(Dupla x) { return {fabs(x.a), fabs(x.b)}; }
+};
+
 #if VARENTA_BITS == 128
 /// Without fused operations a divisor known beforehand gains nothing.
-using DivisorConhecido = Vetor;
+template <class Número>
+using DivisorConhecido = Número;
 #else
+/// a b + c, rounded once.
+inline Vetor vezesMais(Vetor a, Vetor b, Vetor c) { return vezesMais(a.v, b.v, c.v); }
+inline Dupla<Vetor> vezesMais(Dupla<Vetor> x, Dupla<Vetor> y, Dupla<Vetor> z) {
+    return {vezesMais(x.a, y.a, z.a), vezesMais(x.b, y.b, z.b)};
+}
+
 /// A divisor b of several numbers: one true division, for its reciprocal, and for each number a
 ///
 ///     p = RN(1 / b)    q = RN(a p)    s = RN(a - q b)    a / b = RN(q + s p)
@@ -147,14 +180,15 @@ using DivisorConhecido = Vetor;
 ///
 /// Which range is safe the caller must know: magnitudes within 2^-900 and 2^900 for a, b, 1 / b and a / b
 /// are.
-struct DivisorConhecido : Vetor {
-    Vetor recíproco;
+template <class Número>
+struct DivisorConhecido : Número {
+    Número recíproco;
 
-    explicit DivisorConhecido(Vetor b) : Vetor{b}, recíproco{Vetor{1.0} / b} {}
+    explicit DivisorConhecido(Número b) : Número{b}, recíproco{Número{1.0} / b} {}
 
-    friend Vetor operator/(Vetor a, const DivisorConhecido& b) {
-        const Vetor q = a * b.recíproco;
-        return vezesMais(menosVezes(q.v, b.v, a.v), b.recíproco.v, q.v);
+    friend Número operator/(Número a, const DivisorConhecido& b) {
+        const Número q = a * b.recíproco;
+        return vezesMais(vezesMais(-q, b, a), b.recíproco, q);
     }
 };
 #endif
