@@ -75,9 +75,14 @@ bool magnitudesUsuais(Vetor x, Vetor y) {
     return ((x2 >= Vetor{menor}) & (y2 >= Vetor{menor}) & (x2 + y2 <= Vetor{maior})).todas();
 }
 
+/// A pass of any magnitudes. Apart from the usual one, so that the two don't share the registers.
+[[gnu::noinline, gnu::flatten]] equações::Passe<Grupo> passeQualquer(Grupo x, Grupo y, Grupo x0, Grupo y0,
+                                                                     const PreparoDoLote& p) {
+    return equações::passeDeNewton(x, y, x0, y0, constantes<Grupo>(*p.condições, p.senos.s2));
+}
+
 /// Stage 1: the solutions, in b.x and b.y.
 [[gnu::flatten]] void resolver(Bloco& b, const PreparoDoLote& p, Contas& contas) {
-    const auto verdadeiras = constantes<Grupo>(*p.condições, p.senos.s2);
     const auto conhecidas = constantes<Grupo, DivisorConhecido<Grupo>>(*p.condições, p.senos.s2);
     Máscara ativas[vetoresDoBloco];
     std::size_t lista[vetoresDoBloco];
@@ -107,8 +112,8 @@ bool magnitudesUsuais(Vetor x, Vetor y) {
             const Grupo x = lidos(b.x), y = lidos(b.y), x0 = lidos(b.x0), y0 = lidos(b.y0);
             const bool usuais = p.divisoresConhecidos && magnitudesUsuais(x.parte(0), y.parte(0)) &&
                                 magnitudesUsuais(x.parte(1), y.parte(1));
-            const auto fim = usuais ? equações::passeDeNewton(x, y, x0, y0, conhecidas)
-                                    : equações::passeDeNewton(x, y, x0, y0, verdadeiras);
+            const auto fim =
+                usuais ? equações::passeDeNewton(x, y, x0, y0, conhecidas) : passeQualquer(x, y, x0, y0, p);
             if (!usuais)
                 contas.suspeito |= (ativas[v] & !finitas(fim.det.parte(0))).alguma() ||
                                    (ativas[w] & !finitas(fim.det.parte(1))).alguma();
