@@ -17,6 +17,7 @@
 #include <cstdlib>
 #include <ctime>
 #include <functional>
+#include <span>
 #include <string>
 #include <vector>
 
@@ -47,20 +48,18 @@ Campo campoDe(const DadosDaSimulação& dados, std::size_t lado) {
     return campo;
 }
 
-std::vector<double> transcrito(const Campo& campo) {
+void transcrever(const Campo& campo, std::span<double> i) {
     const auto& c = campo.condições;
-    std::vector<double> i(campo.X.size());
     for (std::size_t k = 0; k < i.size(); ++k)
         i[k] = transcrição::intensidadeEmPonto(campo.X[k], campo.Y[k], c.anguloSecoI, c.anguloSecoII,
                                                c.rotacao, c.anguloGiro, c.R, c.A, c.B, c.C, c.D, c.E, c.F,
                                                c.W, c.anguloJato, c.rotVento, c.intensidades);
-    return i;
 }
 
-std::vector<double> noLote(const Campo& campo, Largura largura, ContagemDoModelo& contagem) {
-    std::vector<double> i(campo.X.size());
+ContagemDoModelo avaliarNoLote(const Campo& campo, Largura largura, std::span<double> i) {
+    ContagemDoModelo contagem;
     intensidadesEmPontos(campo.X, campo.Y, campo.condições, i, contagem, largura);
-    return i;
+    return contagem;
 }
 
 void exigirOsMesmosBits(const std::vector<double>& a, const std::vector<double>& b, Largura largura) {
@@ -115,13 +114,10 @@ void imprimirLinha(const char* nome, const std::vector<Medida>& medidas) {
     std::printf("\n");
 }
 
-std::vector<std::function<void()>> trabalhosDoCampo(const Campo& campo) {
-    std::vector<std::function<void()>> trabalhos = {[&campo] { transcrito(campo); }};
+std::vector<std::function<void()>> trabalhosDoCampo(const Campo& campo, std::span<double> i) {
+    std::vector<std::function<void()>> trabalhos = {[&campo, i] { transcrever(campo, i); }};
     for (const auto largura : largurasDisponíveis())
-        trabalhos.push_back([&campo, largura] {
-            ContagemDoModelo contagem;
-            noLote(campo, largura, contagem);
-        });
+        trabalhos.push_back([&campo, i, largura] { avaliarNoLote(campo, largura, i); });
     return trabalhos;
 }
 
@@ -144,13 +140,13 @@ std::function<void()> misturaDa(Largura largura, std::size_t passes) {
 void imprimirLimites(const Campo& campo) {
     std::printf("\n| Largura | ns por ponto | um passe, ns por ponto | limite, ns por ponto | fração |\n"
                 "|---|---|---|---|---|\n");
+    std::vector<double> i(campo.X.size());
     for (const auto largura : largurasDisponíveis()) {
-        ContagemDoModelo contagem;
-        noLote(campo, largura, contagem);
+        const auto contagem = avaliarNoLote(campo, largura, i);
         const auto passes = contagem.passes / contagem.faixas;
         const auto mistura = misturaDa(largura, passes);
         if (!mistura) continue;
-        const auto medidas = alternar({[&] { noLote(campo, largura, contagem); }, mistura});
+        const auto medidas = alternar({[&] { avaliarNoLote(campo, largura, i); }, mistura});
         const auto pontos = static_cast<double>(campo.X.size());
         const double ponto = medidas[0].mediana / pontos * 1e9, limite = medidas[1].mediana / pontos * 1e9;
         std::printf("| %s | %.2f | %.2f | %.2f | %.0f%% |\n", std::string{nomeDa(largura)}.c_str(), ponto,
@@ -164,10 +160,8 @@ void imprimirCrescimento(const DadosDaSimulação& dados) {
     std::printf("\n| N | pontos | ms | ns por ponto |\n|---|---|---|---|\n");
     for (const std::size_t lado : {22u, 44u, 88u, 176u, 352u}) {
         const auto campo = campoDe(dados, lado);
-        const auto medidas = alternar({[&] {
-            ContagemDoModelo contagem;
-            noLote(campo, larguraEmUso(), contagem);
-        }});
+        std::vector<double> i(campo.X.size());
+        const auto medidas = alternar({[&] { avaliarNoLote(campo, larguraEmUso(), i); }});
         const auto pontos = static_cast<double>(lado * lado);
         std::printf("| %zu | %zu | %.4f | %.1f |\n", lado, lado * lado, medidas[0].mediana * 1e3,
                     medidas[0].mediana / pontos * 1e9);
@@ -179,17 +173,18 @@ void imprimirCrescimento(const DadosDaSimulação& dados) {
 int main() {
     const auto dados = bancada::caso();
     const auto campo = campoDe(dados, static_cast<std::size_t>(ladoDoCampo(dados)));
-    const auto esperado = transcrito(campo);
+    std::vector<double> esperado(campo.X.size()), i(campo.X.size());
+    transcrever(campo, esperado);
     std::printf("| Trabalho | transcrição |");
     for (const auto largura : largurasDisponíveis()) {
-        ContagemDoModelo contagem;
-        exigirOsMesmosBits(esperado, noLote(campo, largura, contagem), largura);
+        avaliarNoLote(campo, largura, i);
+        exigirOsMesmosBits(esperado, i, largura);
         std::printf(" %s |", std::string{nomeDa(largura)}.c_str());
     }
     std::printf("\n|---|---|");
     for (std::size_t k = 0; k < largurasDisponíveis().size(); ++k) std::printf("---|");
     std::printf("\n");
-    imprimirLinha("campo de 88 x 88 pontos", alternar(trabalhosDoCampo(campo)));
+    imprimirLinha("campo de 88 x 88 pontos", alternar(trabalhosDoCampo(campo, i)));
     imprimirLimites(campo);
     imprimirCrescimento(dados);
 }

@@ -1,6 +1,8 @@
 #include "roteiro/linha_de_comando.h"
 
+#include "comum/erro_execucao.h"
 #include "roteiro/interprete.h"
+#include "simulacao/nucleo/largura.h"
 
 #include <algorithm>
 #include <ostream>
@@ -26,6 +28,12 @@ int executarLinhaDeComando(const std::vector<std::string>& argumentos, std::istr
         return usoErrado;
     }
 
+    try {
+        larguraEmUso();
+    } catch (const ErroExecucao& erro) {
+        erros << erro.what() << '\n';
+        return usoErrado;
+    }
     Interprete interprete{saída, erros};
     int pior = Interprete::concluído;
     for (const auto& arquivo : arquivos)

@@ -185,6 +185,8 @@ struct DivisorConhecido : Número {
     Número recíproco;
 
     explicit DivisorConhecido(Número b) : Número{b}, recíproco{Número{1.0} / b} {}
+    // As two numbers: as one block of memory it would be copied through memory, in pieces.
+    DivisorConhecido(const DivisorConhecido& b) : Número{b}, recíproco{b.recíproco} {}
 
     friend Número operator/(Número a, const DivisorConhecido& b) {
         const Número q = a * b.recíproco;
