@@ -170,10 +170,16 @@ void imprimirCrescimento(const DadosDaSimulação& dados) {
 
 } // namespace
 
-int main() {
+/// `razoes VEZES` evaluates the field that many times at the width in use and prints nothing: for tools that
+/// count instructions.
+int main(int quantos, char** argumentos) {
     const auto dados = bancada::caso();
     const auto campo = campoDe(dados, static_cast<std::size_t>(ladoDoCampo(dados)));
     std::vector<double> esperado(campo.X.size()), i(campo.X.size());
+    if (quantos > 1) {
+        for (int vez = std::atoi(argumentos[1]); vez > 0; --vez) avaliarNoLote(campo, larguraEmUso(), i);
+        return 0;
+    }
     transcrever(campo, esperado);
     std::printf("| Trabalho | transcrição |");
     for (const auto largura : largurasDisponíveis()) {

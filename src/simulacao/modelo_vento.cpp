@@ -1,6 +1,7 @@
 #include "simulacao/modelo_vento.h"
 
 #include "comum/numeros.h"
+#include "comum/trigonometria.h"
 #include "comum/verificado.h"
 #include "simulacao/equacoes_vento.h"
 #include "simulacao/nucleo/nucleo.h"
@@ -96,8 +97,9 @@ MatrizDoModelo matrizDoModelo(double x, double y, const CondiçõesDoPonto& cond
 }
 
 Senos senosDe(const CondiçõesDoPonto& c) {
-    const double jato = std::sin(c.anguloJato);
-    return {jato * jato, std::cos(c.rotVento), std::sin(c.rotVento)};
+    const double jato = senoECosseno(c.anguloJato).seno;
+    const auto [seno, cosseno] = senoECosseno(c.rotVento);
+    return {jato * jato, cosseno, seno};
 }
 
 PontasDoSetor pontasDoSetor(double anguloSecoI, double anguloSecoII, double rotacao) {
@@ -112,18 +114,29 @@ bool PontasDoSetor::contêm(double theta) const {
     return theta >= rad1 && theta <= rad2;
 }
 
+bool PontasDoSetor::perto(double theta) const {
+    constexpr double margem = 1e-10;
+    for (const double ponta : {rad1, rad2})
+        for (const double volta : {-doisPiDoModelo, 0.0, doisPiDoModelo})
+            if (std::fabs(theta - (ponta + volta)) < margem) return true;
+    return false;
+}
+
 double distanciaNoSetor(double anguloSecoI, double anguloSecoII, double rotacao, double xs, double ys,
                         double R) {
     const double d = std::sqrt(xs * xs + ys * ys);
     if (d >= R || xs == 0 || ys == 0) return 0;
-    const double theta =
-        ys < 0 ? piDoModelo / 2 + std::atan(dividir(xs, ys)) : std::atan(dividir(xs, ys)) + 4.712388980384685;
-    return pontasDoSetor(anguloSecoI, anguloSecoII, rotacao).contêm(theta) ? d : 0;
+    const auto pontas = pontasDoSetor(anguloSecoI, anguloSecoII, rotacao);
+    const double quociente = dividir(xs, ys);
+    const auto theta = [&](double arco) { return ys < 0 ? piDoModelo / 2 + arco : arco + 4.712388980384685; };
+    const double rápido = theta(std::atan(quociente));
+    // Where the last bit decides, it must be that of every machine.
+    return pontas.contêm(pontas.perto(rápido) ? theta(arcoTangente(quociente)) : rápido) ? d : 0;
 }
 
 CunhaSeca cunhaSeca(double anguloGiro) {
     const double beta = radianos((360 - anguloGiro) / 2);
-    return {std::sin(beta), 1 / std::tan(beta)};
+    return {senoECosseno(beta).seno, cotangente(beta)};
 }
 
 double intensidadeSetor(const PontosDoPerfil& intensidades, double u, double w, double anguloGiro, double R) {

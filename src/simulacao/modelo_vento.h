@@ -100,6 +100,8 @@ struct PontasDoSetor {
     /// Whether the sector, both ends included, has the angle `theta` of a point, 0 to a full turn. A sector
     /// that crosses the positive x axis has it a turn further on or back.
     bool contêm(double theta) const;
+    /// Whether an end is so close that an arc tangent which is off by a little may be on its other side.
+    bool perto(double theta) const;
 };
 PontasDoSetor pontasDoSetor(double anguloSecoI, double anguloSecoII, double rotacao);
 

@@ -1,5 +1,6 @@
 #include "simulacao/nucleo/nucleo.h"
 
+#include "comum/trigonometria.h"
 #include "simulacao/perfil_em.h"
 
 #include <algorithm>
@@ -13,7 +14,7 @@ namespace {
 
 /// The stand-in of an angle between 0 and a full turn.
 double chaveDoÂngulo(double theta) {
-    const double x = std::cos(theta), y = -std::sin(theta);
+    const auto [y, x] = senoECosseno(theta);
     const double t = x / (std::fabs(x) + std::fabs(y));
     return theta < piDoModelo ? 1 - t : 3 + t;
 }
