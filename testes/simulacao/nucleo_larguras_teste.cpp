@@ -262,6 +262,59 @@ TEST(NucleoLarguras, DãoOsMesmosDoublesNasBordasDoPerfilEDoAlcance) {
     EXPECT_GT(cobertura.molhados, 10'000u);
 }
 
+/// Eight times the same point.
+Pontos repetido(double x, double y) {
+    Pontos p;
+    for (int k = 0; k < 8; ++k) p.juntar(x, y);
+    return p;
+}
+
+TEST(NucleoLarguras, ResíduoIgualÀTolerânciaBasta) {
+    // A alone: the residual of the first pass is A W = 0.005 x 2, the double of the tolerance exactly, and
+    // the differences of x and it are exact too.
+    auto c = condiçõesDeTeste();
+    c.B = c.C = c.D = c.E = c.F = 0;
+    c.W = 2;
+    for (const auto& [A, passes] : {std::pair{0.005, 8u}, {std::nextafter(0.005, 1), 16u}}) {
+        c.A = A;
+        const auto p = repetido(0.015625, 0.01);
+        std::vector<double> i(8);
+        for (const auto largura : largurasDisponíveis()) {
+            ContagemDoModelo contagem;
+            intensidadesEmPontos(p.x, p.y, c, i, contagem, largura);
+            EXPECT_EQ(contagem.passes, passes) << nomeDa(largura);
+        }
+    }
+}
+
+TEST(NucleoLarguras, DeterminanteInfinitoÉEstouroAindaQueOPassoSejaFinito) {
+    // J11 and J22 of some 1e155 each, from C and from D: their product overflows, while the step, divided by
+    // it, is 0 and the point stays where it is. Without water there nothing later fails.
+    auto c = condiçõesDeTeste();
+    c.W = 5;
+    c.C = 1e207;
+    c.D = 1e156;
+    c.intensidades.fill(0);
+    const auto p = repetido(1e-50, 1e-50);
+    Cobertura cobertura;
+    ASSERT_NO_FATAL_FAILURE(compararLarguras(p, c, cobertura));
+    EXPECT_EQ(cobertura.estouros, 8u);
+}
+
+TEST(NucleoLarguras, QuocienteDoTesteDoSetorQueEstouraÉEstouro) {
+    // xs / ys = 20 / 1e-307 is more than the largest double. Both ends of the sector are far from there.
+    auto c = condiçõesDeTeste();
+    c.rotVento = 0;
+    c.anguloSecoI = c.anguloSecoII = 30;
+    c.rotacao = 180;
+    auto p = repetido(20, 3);
+    p.juntar(20, 1e-307);
+    Cobertura cobertura;
+    ASSERT_NO_FATAL_FAILURE(compararLarguras(p, c, cobertura));
+    EXPECT_EQ(cobertura.molhados, 8u);
+    EXPECT_EQ(cobertura.estouros, 1u);
+}
+
 TEST(NucleoLarguras, QualquerTamanhoEQualquerAlinhamentoValemComoPontoAPonto) {
     Sorteio sorteio{2028};
     Cobertura cobertura;

@@ -31,8 +31,6 @@ struct LimitesDoSetor {
 struct SegmentosDoPerfil {
     double limite[pontosDoPerfil - 1], variação[pontosDoPerfil - 1];
     double largura[pontosDoPerfil - 1], início[pontosDoPerfil - 1];
-    /// The upper limits, but none for the last segment.
-    double fim[pontosDoPerfil - 1];
 };
 
 /// One set of conditions, made ready. Plain numbers: code that is compiled for one processor must not bring

@@ -48,7 +48,6 @@ SegmentosDoPerfil segmentosDoPerfil(const PontosDoPerfil& intensidades) {
     SegmentosDoPerfil s{};
     for (std::size_t k = 0; k + 1 < pontosDoPerfil; ++k) {
         s.limite[k] = limitesDoPerfil[k];
-        s.fim[k] = k + 2 < pontosDoPerfil ? limitesDoPerfil[k + 1] : std::numeric_limits<double>::infinity();
         s.variação[k] = intensidades[k + 1] - intensidades[k];
         s.largura[k] = larguraDoSegmento(k);
         s.início[k] = intensidades[k];

@@ -156,10 +156,9 @@ Vetor noPerfil(Vetor rho, const SegmentosDoPerfil& perfil) {
     alignas(Registro) double limite[faixas], variação[faixas], largura[faixas], início[faixas], r[faixas];
     rho.gravar(r);
     for (std::size_t l = 0; l < faixas; ++l) {
-        // Right, or one off next to a limit.
+        // Right, or one too far just below a limit: at the limits themselves the sum is whole or above.
         auto k = static_cast<unsigned>(r[l] * 20 + 0.5);
         k -= r[l] < perfil.limite[k];
-        k += r[l] >= perfil.fim[k];
         limite[l] = perfil.limite[k];
         variação[l] = perfil.variação[k];
         largura[l] = perfil.largura[k];
@@ -179,7 +178,7 @@ struct NoAlcance {
 /// Of the solutions (x, y) at the squared distances r2, in the lanes of `dentro`, which are within the reach.
 NoAlcance localizar(Vetor x, Vetor y, Vetor r2, Máscara dentro, const PreparoDoLote& p) {
     const auto& c = *p.condições;
-    const Vetor R{c.R}, zero{0.0}, um{1.0};
+    const Vetor R{c.R}, zero{0.0};
     if (c.setor == ModoDoSetor::círculoInteiro) return {sqrt(r2) / R, dentro, false};
     const Vetor xs = x * Vetor{p.senos.cosseno} + y * Vetor{p.senos.seno};
     const Vetor ys = y * Vetor{p.senos.cosseno} - x * Vetor{p.senos.seno};
@@ -189,14 +188,12 @@ NoAlcance localizar(Vetor x, Vetor y, Vetor r2, Máscara dentro, const PreparoDo
         const Máscara seca = (xs > zero) & (lado / R < Vetor{p.cunha.seno}) &
                              (lado * Vetor{p.cunha.cotangente} < xs) & (xs < sqrt(R * R - ys * ys));
         const Vetor rho = onde(xs == zero, zero, sqrt(d2) / R);
-        return {rho, dentro & !seca & (rho <= um), false};
+        return {rho, dentro & !seca & (rho <= Vetor{1.0}), false};
     }
     dentro = dentro & (d2 < Vetor{p.foraDoAlcance});
     if ((dentro & (fabs(ys) < Vetor{0x1p-900})).alguma()) return {zero, dentro, true};
     dentro = noSetor(xs, ys, dentro, p);
-    if (!dentro.alguma()) return {zero, dentro, false};
-    const Vetor rho = sqrt(d2) / R;
-    return {rho, dentro & (rho > zero) & (rho < um), false};
+    return {dentro.alguma() ? sqrt(d2) / R : zero, dentro, false};
 }
 
 /// J11 J22 of the solutions.
