@@ -62,6 +62,7 @@ template <>
 void misturar<VARENTA_BITS>(std::size_t passes) {
     Números n;
     n.um = 1.0;
+    prender(n.um);
     for (auto& a : n.a) a = 1.5;
     for (auto& s : n.s) s = 1.5;
     for (std::size_t passe = 0; passe < passes; ++passe) umPasse(n, std::make_index_sequence<passos>{});
