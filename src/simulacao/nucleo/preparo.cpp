@@ -1,6 +1,5 @@
 #include "simulacao/nucleo/nucleo.h"
 
-#include "comum/trigonometria.h"
 #include "simulacao/perfil_em.h"
 
 #include <algorithm>
@@ -12,9 +11,9 @@
 namespace varenta {
 namespace {
 
-/// The stand-in of an angle between 0 and a full turn.
+/// The stand-in of an angle between 0 and a full turn. Its last bits don't count: `margem` is far wider.
 double chaveDoÂngulo(double theta) {
-    const auto [y, x] = senoECosseno(theta);
+    const double x = std::cos(theta), y = std::sin(theta);
     const double t = x / (std::fabs(x) + std::fabs(y));
     return theta < piDoModelo ? 1 - t : 3 + t;
 }
