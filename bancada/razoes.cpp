@@ -51,9 +51,9 @@ Campo campoDe(const DadosDaSimulação& dados, std::size_t lado) {
 void transcrever(const Campo& campo, std::span<double> i) {
     const auto& c = campo.condições;
     for (std::size_t k = 0; k < i.size(); ++k)
-        i[k] = transcrição::intensidadeEmPonto(campo.X[k], campo.Y[k], c.anguloSecoI, c.anguloSecoII,
-                                               c.rotacao, c.anguloGiro, c.R, c.A, c.B, c.C, c.D, c.E, c.F,
-                                               c.W, c.anguloJato, c.rotVento, c.intensidades);
+        i[k] = bancada::intensidadeTranscrita(campo.X[k], campo.Y[k], c.anguloSecoI, c.anguloSecoII,
+                                              c.rotacao, c.anguloGiro, c.R, c.A, c.B, c.C, c.D, c.E, c.F, c.W,
+                                              c.anguloJato, c.rotVento, c.intensidades);
 }
 
 ContagemDoModelo avaliarNoLote(const Campo& campo, Largura largura, std::span<double> i) {

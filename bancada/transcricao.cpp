@@ -2,7 +2,7 @@
 
 #include <cmath>
 
-namespace varenta::transcrição {
+namespace varenta::bancada {
 namespace {
 
 constexpr double pi = 3.14159265358979;
@@ -78,10 +78,10 @@ double perfilRadialEm(double rho, double anguloGiro, const PontosDoPerfil& I) {
 
 } // namespace
 
-double intensidadeEmPonto(double x0, double y0, double anguloSecoI, double anguloSecoII, double rotacao,
-                          double anguloGiro, double R, double A, double B, double C, double D, double E,
-                          double F, double W, double anguloJato, double rotVento,
-                          const PontosDoPerfil& lblIntensidade) {
+double intensidadeTranscrita(double x0, double y0, double anguloSecoI, double anguloSecoII, double rotacao,
+                             double anguloGiro, double R, double A, double B, double C, double D, double E,
+                             double F, double W, double anguloJato, double rotVento,
+                             const PontosDoPerfil& lblIntensidade) {
     const auto [x, y] = pontoSemVento(x0, y0, R, W, A, B, C, D, E, F, anguloJato);
     const double r = std::sqrt(x * x + y * y);
     if (r >= R) return 0;
@@ -102,4 +102,4 @@ double intensidadeEmPonto(double x0, double y0, double anguloSecoI, double angul
     return i / (J11 * J22);
 }
 
-} // namespace varenta::transcrição
+} // namespace varenta::bancada

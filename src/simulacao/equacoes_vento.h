@@ -8,7 +8,7 @@
 ///
 /// `Divisor` is a number by which more than one other is divided: `Real` itself, or a type that converts to
 /// it and knows a quicker way to the same quotients.
-namespace varenta::equações {
+namespace varenta::modelo {
 
 using std::fabs;
 using std::sqrt;
@@ -108,4 +108,4 @@ inline constexpr double tolerância = 1e-2;
 /// Some 4 passes are usual; near a singular matrix the solution may never settle.
 inline constexpr int limiteDePasses = 26;
 
-} // namespace varenta::equações
+} // namespace varenta::modelo

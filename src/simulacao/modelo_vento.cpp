@@ -13,13 +13,13 @@
 namespace varenta {
 namespace {
 
-using equações::constantes;
-using equações::derivada11;
-using equações::derivada12;
-using equações::derivada21;
-using equações::derivada22;
-using equações::passeDeNewton;
-using equações::termos;
+using modelo::constantes;
+using modelo::derivada11;
+using modelo::derivada12;
+using modelo::derivada21;
+using modelo::derivada22;
+using modelo::passeDeNewton;
+using modelo::termos;
 
 PontoSemVento resolver(double x0, double y0, double s2, const CondiçõesDoPonto& condições) {
     const auto c = constantes<double>(condições, s2);
@@ -32,8 +32,8 @@ PontoSemVento resolver(double x0, double y0, double s2, const CondiçõesDoPonto
         }
         x = passe.x;
         y = passe.y;
-        const bool convergiu = !(passe.err > equações::tolerância);
-        if (convergiu || passes == equações::limiteDePasses) return {x, y, passes, convergiu};
+        const bool convergiu = !(passe.err > modelo::tolerância);
+        if (convergiu || passes == modelo::limiteDePasses) return {x, y, passes, convergiu};
     }
 }
 

@@ -24,7 +24,7 @@
 namespace varenta {
 namespace {
 
-using equações::constantes;
+using modelo::constantes;
 
 constexpr std::size_t vetoresDoBloco = maiorBloco / faixas;
 
@@ -76,9 +76,9 @@ bool magnitudesUsuais(Vetor x, Vetor y) {
 }
 
 /// A pass of any magnitudes. Apart from the usual one, so that the two don't share the registers.
-[[gnu::noinline, gnu::flatten]] equações::Passe<Grupo> passeQualquer(Grupo x, Grupo y, Grupo x0, Grupo y0,
-                                                                     const PreparoDoLote& p) {
-    return equações::passeDeNewton(x, y, x0, y0, constantes<Grupo>(*p.condições, p.senos.s2));
+[[gnu::noinline, gnu::flatten]] modelo::Passe<Grupo> passeQualquer(Grupo x, Grupo y, Grupo x0, Grupo y0,
+                                                                   const PreparoDoLote& p) {
+    return modelo::passeDeNewton(x, y, x0, y0, constantes<Grupo>(*p.condições, p.senos.s2));
 }
 
 /// Stage 1: the solutions, in b.x and b.y.
@@ -96,11 +96,11 @@ bool magnitudesUsuais(Vetor x, Vetor y) {
         onde(ativas[v], x, Vetor::lido(b.x + k)).gravar(b.x + k);
         onde(ativas[v], y, Vetor::lido(b.y + k)).gravar(b.y + k);
         contas.passes += ativas[v].quantas();
-        ativas[v] = ativas[v] & (err > Vetor{equações::tolerância});
+        ativas[v] = ativas[v] & (err > Vetor{modelo::tolerância});
         lista[restam] = v;
         restam += ativas[v].alguma();
     };
-    for (int passe = 0; passe < equações::limiteDePasses && restam > 0; ++passe) {
+    for (int passe = 0; passe < modelo::limiteDePasses && restam > 0; ++passe) {
         const std::size_t nesta = restam;
         restam = 0;
         for (std::size_t n = 0; n < nesta; n += juntos) {
@@ -113,7 +113,7 @@ bool magnitudesUsuais(Vetor x, Vetor y) {
             const bool usuais = p.divisoresConhecidos && magnitudesUsuais(x.parte(0), y.parte(0)) &&
                                 magnitudesUsuais(x.parte(1), y.parte(1));
             const auto fim =
-                usuais ? equações::passeDeNewton(x, y, x0, y0, conhecidas) : passeQualquer(x, y, x0, y0, p);
+                usuais ? modelo::passeDeNewton(x, y, x0, y0, conhecidas) : passeQualquer(x, y, x0, y0, p);
             if (!usuais)
                 contas.suspeito |= (ativas[v] & !finitas(fim.det.parte(0))).alguma() ||
                                    (ativas[w] & !finitas(fim.det.parte(1))).alguma();
@@ -199,8 +199,8 @@ NoAlcance localizar(Vetor x, Vetor y, Vetor r2, Máscara dentro, const PreparoDo
 /// J11 J22 of the solutions.
 template <class Constantes>
 Vetor fatorDeÁrea(Vetor x, Vetor y, const Constantes& c) {
-    const auto t = equações::termos(x, y, c);
-    return equações::derivada11(x, t, c) * equações::derivada22(y, t, c);
+    const auto t = modelo::termos(x, y, c);
+    return modelo::derivada11(x, t, c) * modelo::derivada22(y, t, c);
 }
 
 /// Stage 2: the intensities, in b.i. False where something isn't finite.

@@ -13,7 +13,7 @@
 namespace varenta {
 namespace {
 
-// The instructions. `Lanes` is the register, `Marcas` a truth value for each of its lanes.
+// The instructions. `Registro` is the register, `Marcas` a truth value for each of its lanes.
 #if VARENTA_BITS == 512
 using Registro = __m512d;
 using Marcas = __mmask8;
