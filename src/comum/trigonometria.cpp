@@ -108,10 +108,12 @@ SenoECosseno senoECosseno(double x) {
     return {seno.a, cosseno.a};
 }
 
-double cotangente(double x) {
+double tangente(double x) {
     const auto [seno, cosseno] = dobrados(x);
-    return 1 / (seno.a == 0 ? seno.a : (seno / cosseno).a);
+    return seno.a == 0 ? seno.a : (seno / cosseno).a;
 }
+
+double cotangente(double x) { return 1 / tangente(x); }
 
 double arcoTangente(double t) {
     // Beyond 2^60 the angle is pi/2 to the last bit, below 2^-40 t^3 / 3 is less than a quarter of it.

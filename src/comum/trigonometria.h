@@ -12,8 +12,10 @@ struct SenoECosseno {
 };
 SenoECosseno senoECosseno(double x);
 
-/// 1 / tan(x), as the quotient of 1 and the double nearest to the tangent; infinite at 0. For angles as
-/// above.
+/// Of an angle as above.
+double tangente(double x);
+
+/// 1 / tan(x), as the quotient of 1 and the double nearest to the tangent; infinite at 0.
 double cotangente(double x);
 
 /// In radians, between -pi/2 and pi/2; of any finite number.
