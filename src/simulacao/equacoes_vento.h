@@ -38,20 +38,33 @@ Constantes<Real, Divisor> constantes(const Condições& condições, double s2) 
             .R3 = Divisor{R * R * R}};
 }
 
+/// The distance from the sprinkler, and how much wind draws a drop in from there.
+template <class Real, class Divisor>
+struct Lugar {
+    Real r;
+    Divisor q;
+};
+
+template <class Real, class Divisor>
+Lugar<Real, Divisor> lugar(Real x, Real y, const Constantes<Real, Divisor>& c) {
+    const Real r = sqrt(x * x + y * y);
+    return {r, Divisor{sqrt(c.s2 * (x * x) + y * y) / r}};
+}
+
 /// The model's terms at a point.
 template <class Real, class Divisor>
 struct Termos {
-    Divisor r, q;
+    Real r;
+    Divisor q;
     Real T, P;
     Real g1, g2, g3, g4;
 };
 
 template <class Real, class Divisor>
-Termos<Real, Divisor> termos(Real x, Real y, const Constantes<Real, Divisor>& c) {
+Termos<Real, Divisor> termos(const Lugar<Real, Divisor>& lugar, const Constantes<Real, Divisor>& c) {
     const auto& [W, A, B, C, D, E, F, s2, R, R2, R3] = c;
-    const Divisor r{sqrt(x * x + y * y)};
-    const Divisor q{sqrt(s2 * (x * x) + y * y) / r};
-    const Divisor rR{r * R};
+    const auto& [r, q] = lugar;
+    const Real rR = r * R;
     const Real T = (A + B * (r / R) + C * ((r / R) * (r / R))) * W;
     const Real P = D / rR + E / R2 + F * r / R3;
     const Real g1 = B / r + Real{2} * C / R;
@@ -59,6 +72,11 @@ Termos<Real, Divisor> termos(Real x, Real y, const Constantes<Real, Divisor>& c)
     const Real g3 = D / (r * r) + E / rR + F / R2;
     const Real g4 = D + E * r / R + F * (r * r) / R2;
     return {r, q, T, P, g1, g2, g3, g4};
+}
+
+template <class Real, class Divisor>
+Termos<Real, Divisor> termos(Real x, Real y, const Constantes<Real, Divisor>& c) {
+    return termos(lugar(x, y, c), c);
 }
 
 template <class Real, class Divisor>
@@ -89,8 +107,9 @@ struct Passe {
 };
 
 template <class Real, class Divisor>
-Passe<Real> passeDeNewton(Real x, Real y, Real x0, Real y0, const Constantes<Real, Divisor>& c) {
-    const auto t = termos(x, y, c);
+Passe<Real> passeDeNewton(Real x, Real y, Real x0, Real y0, const Lugar<Real, Divisor>& lugar,
+                          const Constantes<Real, Divisor>& c) {
+    const auto t = termos(lugar, c);
     const Real F1 = -((x - t.T - t.P * t.q * t.r * x * c.W) - x0);
     const Real F2 = -((y - t.P * c.W * t.q * t.r * y) - y0);
     const Real J11 = derivada11(x, t, c);
@@ -101,6 +120,11 @@ Passe<Real> passeDeNewton(Real x, Real y, Real x0, Real y0, const Constantes<Rea
     const Real dx = (F1 * J22 - F2 * J12) / det;
     const Real dy = (F2 * J11 - F1 * J21) / det;
     return {x + dx, y + dy, fabs(F1) + fabs(F2), det};
+}
+
+template <class Real, class Divisor>
+Passe<Real> passeDeNewton(Real x, Real y, Real x0, Real y0, const Constantes<Real, Divisor>& c) {
+    return passeDeNewton(x, y, x0, y0, lugar(x, y, c), c);
 }
 
 /// Above this sum of the residuals (m) the solution makes another pass: 10 raised to -2.

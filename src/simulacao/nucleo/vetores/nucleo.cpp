@@ -2,11 +2,11 @@
 /// point, `intensidadeEmPonto`, in the same order, on as many points at once as a vector has lanes:
 ///
 /// 1. Newton's method pass by pass over the whole block, with a list of the vectors that still have a lane at
-///    work, so that a point which never settles holds up its own vector alone. A lane that is done keeps its
-///    solution. The passes of different vectors don't depend on one another and overlap in the processor.
-/// 2. For each vector: which of the solutions lie in the reach and the sector, the profile there, and the
-/// area
-///    factor. Vectors without a wetted lane stop early.
+/// work, so that a point which never settles holds up its own vector alone. A lane that is done keeps its
+/// solution. A pass begins with two square roots and two quotients, each waiting for the one before: they are
+/// made one vector ahead, while the rest of the pass of the vector before keeps the processor's units busy.
+/// 2. Which of the solutions lie in the reach; which of these in the sector; for those the profile and the
+/// area factor: each step over the vectors that the one before left in its list.
 ///
 /// Whatever isn't finite in a lane that counts makes the whole block be evaluated again, point by point,
 /// which raises the error that it should at the point where it should. So nothing is checked within a pass of
@@ -19,7 +19,7 @@
 #include "simulacao/equacoes_vento.h"
 #include "simulacao/nucleo/vetores/vetor.h"
 
-#include <type_traits>
+#include <utility>
 
 namespace varenta {
 namespace {
@@ -28,38 +28,36 @@ using modelo::constantes;
 
 constexpr std::size_t vetoresDoBloco = maiorBloco / faixas;
 
-/// The points of a block, each number in a row of its own; the rest of the last vector repeats its last
-/// point.
+/// The points of a block, each number in a row of its own.
 struct Bloco {
-    alignas(Registro) double x0[maiorBloco], y0[maiorBloco];
-    alignas(Registro) double x[maiorBloco], y[maiorBloco];
-    alignas(Registro) double i[maiorBloco];
+    /// The points, in whole vectors.
+    const double *x0, *y0;
     std::size_t n, vetores;
+    /// The solutions so far.
+    alignas(Registro) double x[maiorBloco], y[maiorBloco];
+    /// The relative distances first, then the intensities.
+    alignas(Registro) double i[maiorBloco];
 };
 
-/// The vectors that a pass takes at once. With 32 registers there is room for two, whose long chains of
-/// quotients then fill each other's gaps; with 16 they would be in each other's way.
-constexpr std::size_t juntos = VARENTA_BITS == 512 ? 2 : 1;
-using Grupo = std::conditional_t<juntos == 2, Dupla<Vetor>, Vetor>;
+/// Vectors of a block that have anything to do, and which of their lanes.
+struct Lista {
+    std::size_t vetor[vetoresDoBloco];
+    Máscara faixas[vetoresDoBloco];
+    std::size_t quantos = 0;
+
+    /// Without a jump: half of the vectors end here in no order that could be foreseen.
+    void juntar(std::size_t v, Máscara m) {
+        vetor[quantos] = v;
+        faixas[quantos] = m;
+        quantos += m.alguma();
+    }
+};
 
 struct Contas {
     std::size_t passes = 0, semConvergência = 0, fatorNãoPositivo = 0;
-    /// A determinant isn't finite.
+    /// Something isn't finite, or may not be.
     bool suspeito = false;
 };
-
-void preencher(Bloco& b, const double* x, const double* y, std::size_t n) {
-    b.n = n;
-    b.vetores = (n + faixas - 1) / faixas;
-    for (std::size_t k = 0; k < n; ++k) {
-        b.x0[k] = b.x[k] = x[k];
-        b.y0[k] = b.y[k] = y[k];
-    }
-    for (std::size_t k = n; k < b.vetores * faixas; ++k) {
-        b.x0[k] = b.x[k] = x[n - 1];
-        b.y0[k] = b.y[k] = y[n - 1];
-    }
-}
 
 /// The lanes of vector `v` that are points of the block.
 Máscara ocupadas(const Bloco& b, std::size_t v) {
@@ -67,61 +65,63 @@ Máscara ocupadas(const Bloco& b, std::size_t v) {
     return Vetor::lido(lugares) < Vetor{static_cast<double>(b.n) - static_cast<double>(v * faixas)};
 }
 
-/// Whether x and y of all lanes lie within 2^-32 and 2^32 in magnitude. With the constants in that range too
-/// every quotient by a known divisor lies within 2^-200 and 2^200, and the determinant is finite.
-bool magnitudesUsuais(Vetor x, Vetor y) {
-    constexpr double menor = 0x1p-64, maior = 0x1p64; // of the squares
-    const Vetor x2 = x * x, y2 = y * y;
-    return ((x2 >= Vetor{menor}) & (y2 >= Vetor{menor}) & (x2 + y2 <= Vetor{maior})).todas();
+/// A pass of any magnitudes. Apart from the usual one, so that the two don't share the registers.
+[[gnu::noinline, gnu::flatten]] modelo::Passe<Vetor> passeQualquer(Vetor x, Vetor y, Vetor x0, Vetor y0,
+                                                                   const PreparoDoLote& p) {
+    return modelo::passeDeNewton(x, y, x0, y0, constantes<Vetor>(*p.condições, p.senos.s2));
 }
 
-/// A pass of any magnitudes. Apart from the usual one, so that the two don't share the registers.
-[[gnu::noinline, gnu::flatten]] modelo::Passe<Grupo> passeQualquer(Grupo x, Grupo y, Grupo x0, Grupo y0,
-                                                                   const PreparoDoLote& p) {
-    return modelo::passeDeNewton(x, y, x0, y0, constantes<Grupo>(*p.condições, p.senos.s2));
+using ConstantesUsuais = modelo::Constantes<Vetor, DivisorConhecido>;
+
+/// How a pass begins.
+struct Começo {
+    modelo::Lugar<Vetor, DivisorConhecido> lugar;
+    /// Whether x and y of all lanes lie within 2^-32 and 2^32 in magnitude. With the constants in that range
+    /// too every quotient by a known divisor lies within 2^-200 and 2^200, and the determinant is finite.
+    bool usual;
+};
+
+Começo começo(Vetor x, Vetor y, const ConstantesUsuais& c) {
+    constexpr double menor = 0x1p-64, maior = 0x1p64; // of the squares
+    const Vetor x2 = x * x, y2 = y * y;
+    return {modelo::lugar(x, y, c),
+            ((x2 >= Vetor{menor}) & (y2 >= Vetor{menor}) & (x2 + y2 <= Vetor{maior})).todas()};
 }
 
 /// Stage 1: the solutions, in b.x and b.y.
 [[gnu::flatten]] void resolver(Bloco& b, const PreparoDoLote& p, Contas& contas) {
-    const auto conhecidas = constantes<Grupo, DivisorConhecido<Grupo>>(*p.condições, p.senos.s2);
-    Máscara ativas[vetoresDoBloco];
-    std::size_t lista[vetoresDoBloco];
-    std::size_t restam = b.vetores;
-    for (std::size_t v = 0; v < restam; ++v) {
-        ativas[v] = ocupadas(b, v);
-        lista[v] = v;
-    }
-    const auto dar = [&](std::size_t v, Vetor x, Vetor y, Vetor err) {
-        const std::size_t k = v * faixas;
-        onde(ativas[v], x, Vetor::lido(b.x + k)).gravar(b.x + k);
-        onde(ativas[v], y, Vetor::lido(b.y + k)).gravar(b.y + k);
-        contas.passes += ativas[v].quantas();
-        ativas[v] = ativas[v] & (err > Vetor{modelo::tolerância});
-        lista[restam] = v;
-        restam += ativas[v].alguma();
-    };
-    for (int passe = 0; passe < modelo::limiteDePasses && restam > 0; ++passe) {
-        const std::size_t nesta = restam;
-        restam = 0;
-        for (std::size_t n = 0; n < nesta; n += juntos) {
-            const bool sobra = n + juntos > nesta; // the last one goes with itself
-            const std::size_t v = lista[n], w = lista[sobra ? n : n + juntos - 1];
-            const auto lidos = [&](const double* linha) {
-                return Grupo::lidos(linha + v * faixas, linha + w * faixas);
-            };
-            const Grupo x = lidos(b.x), y = lidos(b.y), x0 = lidos(b.x0), y0 = lidos(b.y0);
-            const bool usuais = p.divisoresConhecidos && magnitudesUsuais(x.parte(0), y.parte(0)) &&
-                                magnitudesUsuais(x.parte(1), y.parte(1));
-            const auto fim =
-                usuais ? modelo::passeDeNewton(x, y, x0, y0, conhecidas) : passeQualquer(x, y, x0, y0, p);
-            if (!usuais)
-                contas.suspeito |= (ativas[v] & !finitas(fim.det.parte(0))).alguma() ||
-                                   (ativas[w] & !finitas(fim.det.parte(1))).alguma();
-            dar(v, fim.x.parte(0), fim.y.parte(0), fim.err.parte(0));
-            if (juntos == 2 && !sobra) dar(w, fim.x.parte(1), fim.y.parte(1), fim.err.parte(1));
+    const auto c = constantes<Vetor, DivisorConhecido>(*p.condições, p.senos.s2);
+    Lista ativos;
+    for (std::size_t v = 0; v < b.vetores; ++v) ativos.juntar(v, ocupadas(b, v));
+    const double* x = b.x0;
+    const double* y = b.y0;
+    for (int passe = 0; passe < modelo::limiteDePasses && ativos.quantos > 0; ++passe) {
+        const std::size_t nesta = std::exchange(ativos.quantos, 0);
+        const auto começar = [&](std::size_t n) {
+            const std::size_t k = ativos.vetor[n] * faixas;
+            return começo(Vetor::lido(x + k), Vetor::lido(y + k), c);
+        };
+        auto este = começar(0);
+        for (std::size_t n = 0; n < nesta; ++n) {
+            const std::size_t v = ativos.vetor[n], k = v * faixas;
+            const Máscara faixas = ativos.faixas[n];
+            const auto seguinte = começar(n + 1 < nesta ? n + 1 : n);
+            const Vetor xk = Vetor::lido(x + k), yk = Vetor::lido(y + k);
+            const Vetor x0 = Vetor::lido(b.x0 + k), y0 = Vetor::lido(b.y0 + k);
+            const bool usual = este.usual && p.divisoresConhecidos;
+            const auto fim = usual ? modelo::passeDeNewton(xk, yk, x0, y0, este.lugar, c)
+                                   : passeQualquer(xk, yk, x0, y0, p);
+            if (!usual) contas.suspeito |= (faixas & !finitas(fim.det)).alguma();
+            onde(faixas, fim.x, xk).gravar(b.x + k);
+            onde(faixas, fim.y, yk).gravar(b.y + k);
+            contas.passes += faixas.quantas();
+            ativos.juntar(v, faixas & (fim.err > Vetor{modelo::tolerância}));
+            este = seguinte;
         }
+        x = b.x;
+        y = b.y;
     }
-    for (std::size_t n = 0; n < restam; ++n) contas.semConvergência += ativas[lista[n]].quantas();
+    for (std::size_t n = 0; n < ativos.quantos; ++n) contas.semConvergência += ativos.faixas[n].quantas();
 }
 
 /// The lanes of `candidatas` whose ground point (xs, ys) lies in the wetted sector.
@@ -167,70 +167,130 @@ Vetor noPerfil(Vetor rho, const SegmentosDoPerfil& perfil) {
     return (rho - Vetor::lido(limite)) * Vetor::lido(variação) / Vetor::lido(largura) + Vetor::lido(início);
 }
 
-/// What of the radial profile solutions find: the relative distance, in the lanes that find any.
-struct NoAlcance {
-    Vetor rho;
-    Máscara molhadas;
-    /// A quotient of the sector test may overflow.
-    bool suspeito;
-};
-
-/// Of the solutions (x, y) at the squared distances r2, in the lanes of `dentro`, which are within the reach.
-NoAlcance localizar(Vetor x, Vetor y, Vetor r2, Máscara dentro, const PreparoDoLote& p) {
-    const auto& c = *p.condições;
-    const Vetor R{c.R}, zero{0.0};
-    if (c.setor == Setor::círculoInteiro) return {sqrt(r2) / R, dentro, false};
-    const Vetor xs = x * Vetor{p.senos.cosseno} + y * Vetor{p.senos.seno};
-    const Vetor ys = y * Vetor{p.senos.cosseno} - x * Vetor{p.senos.seno};
-    const Vetor d2 = xs * xs + ys * ys;
-    if (c.setor == Setor::semCunhaÀFrente) {
-        const Vetor lado = fabs(ys);
-        const Máscara seca = (xs > zero) & (lado / R < Vetor{p.cunha.seno}) &
-                             (lado * Vetor{p.cunha.cotangente} < xs) & (xs < sqrt(R * R - ys * ys));
-        const Vetor rho = onde(xs == zero, zero, sqrt(d2) / R);
-        return {rho, dentro & !seca & (rho <= Vetor{1.0}), false};
+/// The solutions within the reach. All intensities are 0 to begin with.
+Lista noAlcance(Bloco& b, const PreparoDoLote& p, Contas& contas) {
+    Lista lista;
+    Máscara ruins = nenhuma();
+    for (std::size_t v = 0; v < b.vetores; ++v) {
+        const Vetor x = Vetor::lido(b.x + v * faixas), y = Vetor::lido(b.y + v * faixas);
+        Vetor{0.0}.gravar(b.i + v * faixas);
+        const Vetor r2 = x * x + y * y;
+        const Máscara pontos = ocupadas(b, v);
+        ruins = ruins | (pontos & !finitas(r2));
+        lista.juntar(v, pontos & (r2 < Vetor{p.foraDoAlcance}));
     }
-    dentro = dentro & (d2 < Vetor{p.foraDoAlcance});
-    if ((dentro & (fabs(ys) < Vetor{0x1p-900})).alguma()) return {zero, dentro, true};
-    dentro = noSetor(xs, ys, dentro, p);
-    return {dentro.alguma() ? sqrt(d2) / R : zero, dentro, false};
+    contas.suspeito |= ruins.alguma();
+    return lista;
 }
 
-/// J11 J22 of the solutions.
-template <class Constantes>
-Vetor fatorDeÁrea(Vetor x, Vetor y, const Constantes& c) {
-    const auto t = modelo::termos(x, y, c);
+/// Where in the profile a solution reads.
+struct Leitura {
+    Vetor rho;
+    Máscara molhadas;
+};
+
+/// In the full circle.
+Leitura leituraNoCírculo(Vetor x, Vetor y, Máscara dentro, const PreparoDoLote& p) {
+    return {sqrt(x * x + y * y) / Vetor{p.condições->R}, dentro};
+}
+
+/// Of the ground point (xs, ys), outside the wedge ahead.
+Leitura leituraSemCunha(Vetor xs, Vetor ys, Máscara dentro, const PreparoDoLote& p, Contas&) {
+    const Vetor R{p.condições->R}, zero{0.0};
+    const Vetor lado = fabs(ys);
+    const Máscara seca = (xs > zero) & (lado / R < Vetor{p.cunha.seno}) &
+                         (lado * Vetor{p.cunha.cotangente} < xs) & (xs < sqrt(R * R - ys * ys));
+    const Vetor rho = onde(xs == zero, zero, sqrt(xs * xs + ys * ys) / R);
+    return {rho, dentro & !seca & (rho <= Vetor{1.0})};
+}
+
+/// Of the ground point (xs, ys), between the dry angles.
+Leitura leituraNoSetor(Vetor xs, Vetor ys, Máscara dentro, const PreparoDoLote& p, Contas& contas) {
+    const Vetor d2 = xs * xs + ys * ys;
+    dentro = dentro & (d2 < Vetor{p.foraDoAlcance});
+    // There the quotient of the arc tangent may overflow.
+    const Máscara rentes = dentro & (fabs(ys) < Vetor{0x1p-900});
+    contas.suspeito |= rentes.alguma();
+    return {sqrt(d2) / Vetor{p.condições->R}, noSetor(xs, ys, dentro & !rentes, p)};
+}
+
+/// Those of the list that find water: the relative distances, in b.i.
+template <class Ler>
+Lista molhados(Bloco& b, const Lista& lista, Ler&& ler) {
+    Lista molhados;
+    for (std::size_t n = 0; n < lista.quantos; ++n) {
+        const std::size_t v = lista.vetor[n], k = v * faixas;
+        const auto leitura = ler(Vetor::lido(b.x + k), Vetor::lido(b.y + k), lista.faixas[n]);
+        onde(leitura.molhadas, leitura.rho, Vetor{0.0}).gravar(b.i + k);
+        molhados.juntar(v, leitura.molhadas);
+    }
+    return molhados;
+}
+
+Lista molhados(Bloco& b, const Lista& lista, const PreparoDoLote& p, Contas& contas) {
+    const auto noChão = [&](auto&& ler) {
+        return molhados(b, lista, [&](Vetor x, Vetor y, Máscara dentro) {
+            const Vetor cosseno{p.senos.cosseno}, seno{p.senos.seno};
+            return ler(x * cosseno + y * seno, y * cosseno - x * seno, dentro, p, contas);
+        });
+    };
+    switch (p.condições->setor) {
+    case Setor::círculoInteiro:
+        return molhados(b, lista,
+                        [&](Vetor x, Vetor y, Máscara dentro) { return leituraNoCírculo(x, y, dentro, p); });
+    case Setor::semCunhaÀFrente:
+        return noChão(leituraSemCunha);
+    default:
+        return noChão(leituraNoSetor);
+    }
+}
+
+/// J11 J22 at the solution.
+template <class Lugar, class Constantes>
+Vetor fatorDeÁrea(Vetor x, Vetor y, const Lugar& lugar, const Constantes& c) {
+    const auto t = modelo::termos(lugar, c);
     return modelo::derivada11(x, t, c) * modelo::derivada22(y, t, c);
 }
 
-/// Stage 2: the intensities, in b.i. False where something isn't finite.
-[[gnu::flatten]] bool avaliar(Bloco& b, const PreparoDoLote& p, Contas& contas) {
-    const auto verdadeiras = constantes<Vetor>(*p.condições, p.senos.s2);
-    const auto conhecidas = constantes<Vetor, DivisorConhecido<Vetor>>(*p.condições, p.senos.s2);
+/// The same of any magnitudes.
+[[gnu::noinline, gnu::flatten]] Vetor fatorQualquer(Vetor x, Vetor y, const PreparoDoLote& p) {
+    const auto c = constantes<Vetor>(*p.condições, p.senos.s2);
+    return fatorDeÁrea(x, y, modelo::lugar(x, y, c), c);
+}
+
+/// The intensities of those of the list, in place of their relative distances.
+void intensidades(Bloco& b, const Lista& lista, const PreparoDoLote& p, Contas& contas) {
+    const auto c = constantes<Vetor, DivisorConhecido>(*p.condições, p.senos.s2);
     const Vetor zero{0.0};
-    for (std::size_t v = 0; v < b.vetores; ++v) {
-        const std::size_t k = v * faixas;
-        zero.gravar(b.i + k);
-        const Máscara pontos = ocupadas(b, v);
+    Máscara ruins = nenhuma();
+    for (std::size_t n = 0; n < lista.quantos; ++n) {
+        const std::size_t k = lista.vetor[n] * faixas;
         const Vetor x = Vetor::lido(b.x + k), y = Vetor::lido(b.y + k);
-        const Vetor r2 = x * x + y * y;
-        if ((pontos & !finitas(r2)).alguma()) return false;
-        const Máscara dentro = pontos & (r2 < Vetor{p.foraDoAlcance});
-        if (!dentro.alguma()) continue;
-        const auto lugar = localizar(x, y, r2, dentro, p);
-        if (lugar.suspeito) return false;
-        if (!lugar.molhadas.alguma()) continue;
-        const Vetor i = noPerfil(onde(lugar.molhadas, lugar.rho, zero), p.perfil) * Vetor{p.escala};
-        const Máscara molhadas = lugar.molhadas & !(i == zero);
-        if (!molhadas.alguma()) continue;
-        const Vetor fator = p.divisoresConhecidos && magnitudesUsuais(x, y) ? fatorDeÁrea(x, y, conhecidas)
-                                                                            : fatorDeÁrea(x, y, verdadeiras);
+        const auto [lugar, usual] = começo(x, y, c);
+        const Vetor fator =
+            usual && p.divisoresConhecidos ? fatorDeÁrea(x, y, lugar, c) : fatorQualquer(x, y, p);
+        const Vetor i = noPerfil(Vetor::lido(b.i + k), p.perfil) * Vetor{p.escala};
+        const Máscara molhadas = lista.faixas[n] & !(i == zero);
         const Vetor valor = i / fator;
-        if ((molhadas & !(finitas(valor) & finitas(fator))).alguma()) return false;
+        ruins = ruins | (molhadas & !(finitas(valor) & finitas(fator)));
         onde(molhadas, valor, zero).gravar(b.i + k);
         contas.fatorNãoPositivo += (molhadas & !(fator > zero)).quantas();
     }
-    return true;
+    contas.suspeito |= ruins.alguma();
+}
+
+/// Stage 2: the intensities, in b.i.
+[[gnu::flatten]] void avaliar(Bloco& b, const PreparoDoLote& p, Contas& contas) {
+    const Lista dentro = noAlcance(b, p, contas);
+    intensidades(b, molhados(b, dentro, p, contas), p, contas);
+}
+
+/// Whole vectors of a row of numbers: the row itself, or a copy in `cópia` that repeats the last.
+const double* emVetoresInteiros(const double* linha, std::size_t n, double* cópia) {
+    if (n % faixas == 0) return linha;
+    for (std::size_t k = 0; k < n; ++k) cópia[k] = linha[k];
+    for (std::size_t k = n; k % faixas != 0; ++k) cópia[k] = linha[n - 1];
+    return cópia;
 }
 
 } // namespace
@@ -238,11 +298,16 @@ Vetor fatorDeÁrea(Vetor x, Vetor y, const Constantes& c) {
 template <>
 bool avaliarBloco<VARENTA_BITS>(const PreparoDoLote& preparo, const double* x, const double* y, double* i,
                                 std::size_t n, ContagemDoModelo& contagem) {
+    double xInteiros[maiorBloco], yInteiros[maiorBloco];
     Bloco b;
-    preencher(b, x, y, n);
+    b.x0 = emVetoresInteiros(x, n, xInteiros);
+    b.y0 = emVetoresInteiros(y, n, yInteiros);
+    b.n = n;
+    b.vetores = (n + faixas - 1) / faixas;
     Contas contas;
     resolver(b, preparo, contas);
-    if (contas.suspeito || !avaliar(b, preparo, contas)) return false;
+    if (!contas.suspeito) avaliar(b, preparo, contas);
+    if (contas.suspeito) return false;
 
     for (std::size_t k = 0; k < n; ++k) i[k] = b.i[k];
     contagem.pontos += n;

@@ -100,9 +100,6 @@ struct Vetor {
     Vetor(double a) : v{repetir(a)} {}
 
     static Vetor lido(const double* de) { return ler(de); }
-    /// As of a `Dupla`, of which this is the one half that there is.
-    static Vetor lidos(const double* de, const double*) { return ler(de); }
-    Vetor parte(std::size_t) const { return *this; }
     void gravar(double* em) const { varenta::gravar(em, v); }
 
     friend Vetor operator-(Vetor a) { return -a.v; }
@@ -122,40 +119,18 @@ struct Vetor {
 /// `sim` in the lanes where `m` is true, `não` in the others.
 inline Vetor onde(Máscara m, Vetor sim, Vetor não) { return escolher(m.m, sim.v, não.v); }
 
+/// False in all lanes.
+inline Máscara nenhuma() { return Vetor{0.0} < Vetor{0.0}; }
+
 /// Neither infinite nor NaN.
 inline Máscara finitas(Vetor a) { return a - a == Vetor{0.0}; }
 
-/// Two numbers as one: the operations of one fill the gaps that long chains of quotients leave in the
-/// other's.
-template <class Número>
-struct Dupla {
-    Número a, b;
-
-    Dupla(Número a_, Número b_) : a{a_}, b{b_} {}
-    Dupla(double x) : a{x}, b{x} {}
-
-    static Dupla lidos(const double* a, const double* b) { return {Número::lido(a), Número::lido(b)}; }
-    Número parte(std::size_t k) const { return k == 0 ? a : b; }
-
-    friend Dupla operator-(Dupla x) { return {-x.a, -x.b}; }
-    friend Dupla operator+(Dupla x, Dupla y) { return {x.a + y.a, x.b + y.b}; }
-    friend Dupla operator-(Dupla x, Dupla y) { return {x.a - y.a, x.b - y.b}; }
-    friend Dupla operator*(Dupla x, Dupla y) { return {x.a * y.a, x.b * y.b}; }
-    friend Dupla operator/(Dupla x, Dupla y) { return {x.a / y.a, x.b / y.b}; }
-    friend Dupla sqrt(Dupla x) { return {sqrt(x.a), sqrt(x.b)}; }
-    friend Dupla fabs(Dupla x) { return {fabs(x.a), fabs(x.b)}; }
-};
-
 #if VARENTA_BITS == 128
 /// Without fused operations a divisor known beforehand gains nothing.
-template <class Número>
-using DivisorConhecido = Número;
+using DivisorConhecido = Vetor;
 #else
 /// a b + c, rounded once.
 inline Vetor vezesMais(Vetor a, Vetor b, Vetor c) { return vezesMais(a.v, b.v, c.v); }
-inline Dupla<Vetor> vezesMais(Dupla<Vetor> x, Dupla<Vetor> y, Dupla<Vetor> z) {
-    return {vezesMais(x.a, y.a, z.a), vezesMais(x.b, y.b, z.b)};
-}
 
 /// A divisor b of several numbers: one true division, for its reciprocal, and for each number a
 ///
@@ -180,16 +155,13 @@ inline Dupla<Vetor> vezesMais(Dupla<Vetor> x, Dupla<Vetor> y, Dupla<Vetor> z) {
 ///
 /// Which range is safe the caller must know: magnitudes within 2^-900 and 2^900 for a, b, 1 / b and a / b
 /// are.
-template <class Número>
-struct DivisorConhecido : Número {
-    Número recíproco;
+struct DivisorConhecido : Vetor {
+    Vetor recíproco;
 
-    explicit DivisorConhecido(Número b) : Número{b}, recíproco{Número{1.0} / b} {}
-    // As two numbers: as one block of memory it would be copied through memory, in pieces.
-    DivisorConhecido(const DivisorConhecido& b) : Número{b}, recíproco{b.recíproco} {}
+    explicit DivisorConhecido(Vetor b) : Vetor{b}, recíproco{Vetor{1.0} / b} {}
 
-    friend Número operator/(Número a, const DivisorConhecido& b) {
-        const Número q = a * b.recíproco;
+    friend Vetor operator/(Vetor a, const DivisorConhecido& b) {
+        const Vetor q = a * b.recíproco;
         return vezesMais(vezesMais(-q, b, a), b.recíproco, q);
     }
 };
