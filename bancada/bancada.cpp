@@ -2,6 +2,8 @@
 /// after it at their largest. Times are only
 /// good for ratios within one run; points per second and Newton passes per point say what was done.
 
+#include "caso.h"
+
 #include "aspersor/form1.h"
 #include "comum/operacoes.h"
 #include "shell/form3.h"
@@ -24,20 +26,7 @@
 namespace {
 
 using namespace varenta;
-
-/// TX20, 38 mm, 60 m.c.a., 1.5 m, wind of 5 m/s from 60 degrees, default parameters, dry angles 60/60.
-DadosDaSimulação caso() {
-    iniciarSistema();
-    form3_TX20B_Click();
-    escolherItem(form1->Combo1, "38 mm");
-    escolherItem(form1->Combo2, "0 mm");
-    definirValor(form1->hsbPressão, 60);
-    form1_Command3_Click();
-    escolherItem(form7->Combo2, "1.5");
-    definirValor(form7->HScroll1, 60);
-    definirValor(form7->HScroll2, 50);
-    return lerSimulação(aspersorDoCatálogo());
-}
+using bancada::caso;
 
 void contar(benchmark::State& estado, const ContagemDoModelo& contagem) {
     estado.counters["pontos/s"] =

@@ -2,7 +2,6 @@
 
 #include "comum/numeros.h"
 
-#include <cmath>
 #include <cstddef>
 #include <utility>
 
@@ -23,10 +22,9 @@ CondiçõesDoPonto condiçõesDoEnsaio(const AspersorDoAjuste& aspersor, const V
 }
 
 /// Adds the ground point (y ahead, x to the right) to the test's points.
-void juntarPonto(EnsaioDoAjuste& ensaio, double y, double x) {
-    const double cosseno = std::cos(ensaio.condições.rotVento), seno = std::sin(ensaio.condições.rotVento);
-    ensaio.X.push_back(y * cosseno - x * seno);
-    ensaio.Y.push_back(x * cosseno + y * seno);
+void juntarPonto(EnsaioDoAjuste& ensaio, const Senos& senos, double y, double x) {
+    ensaio.X.push_back(y * senos.cosseno - x * senos.seno);
+    ensaio.Y.push_back(x * senos.cosseno + y * senos.seno);
 }
 
 } // namespace
@@ -48,9 +46,10 @@ EnsaioDeMalha ensaioDeMalha(const AspersorDoAjuste& aspersor, const VentoDoEnsai
     ensaio.e = e;
     ensaio.condições = condiçõesDoEnsaio(aspersor, vento, 360, Setor::círculoInteiro);
     ensaio.observados = std::move(intensidades);
+    const auto senos = senosDe(ensaio.condições);
     for (int i = 0; i < N; ++i)
         for (int j = 0; j < N; ++j)
-            juntarPonto(ensaio, lugarDescendente(e, N, i), simples(lugarAscendente(e, N, j)));
+            juntarPonto(ensaio, senos, lugarDescendente(e, N, i), simples(lugarAscendente(e, N, j)));
     ensaio.V = 0;
     for (const double P : ensaio.observados) ensaio.V += P * e * e / 1000;
     return ensaio;
@@ -64,8 +63,10 @@ EnsaioMóvel ensaioMóvel(const AspersorDoAjuste& aspersor, const VentoDoEnsaio&
     ensaio.v = v;
     ensaio.condições = condiçõesDoEnsaio(aspersor, vento, anguloGiro, Setor::semCunhaÀFrente);
     ensaio.observados = std::move(lâminas);
+    const auto senos = senosDe(ensaio.condições);
     for (int j = 0; j < N; ++j)
-        for (int k = 0; k < N; ++k) juntarPonto(ensaio, lugarDescendente(e, N, k), lugarAscendente(e, N, j));
+        for (int k = 0; k < N; ++k)
+            juntarPonto(ensaio, senos, lugarDescendente(e, N, k), lugarAscendente(e, N, j));
     ensaio.V = 0;
     for (const double O : ensaio.observados) ensaio.V += O * e * v / 1000;
     return ensaio;

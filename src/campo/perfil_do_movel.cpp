@@ -2,6 +2,7 @@
 
 #include "comum/erro_execucao.h"
 #include "comum/numeros.h"
+#include "comum/trigonometria.h"
 
 #include <algorithm>
 #include <cmath>
@@ -35,14 +36,14 @@ double cordaCheia(double x, double r) { return dividir(x, r) >= 1 ? 0 : std::sqr
 double cordaSetor(double x, double r, double alfa) {
     const double relativa = dividir(x, r);
     if (relativa >= 1) return 0;
-    if (relativa >= std::sin(alfa)) return std::sqrt(r * r - x * x);
-    return x / std::tan(alfa);
+    if (relativa >= senoECosseno(alfa).seno) return std::sqrt(r * r - x * x);
+    return x / tangente(alfa);
 }
 
 double centroSegmento(double r, double x) {
     const double meiaCorda = std::sqrt(r * r - x * x);
     const double cubo = meiaCorda * meiaCorda * meiaCorda;
-    return dividir(2 * cubo, 3 * (r * r * std::atan(meiaCorda / x) - x * meiaCorda));
+    return dividir(2 * cubo, 3 * (r * r * arcoTangente(meiaCorda / x) - x * meiaCorda));
 }
 
 const char* recusaDoPerfilMóvel(const PerfilMóvel& perfil) {

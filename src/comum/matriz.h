@@ -16,7 +16,11 @@ class Matriz {
     std::size_t linhas() const { return linhas_; }
     std::size_t colunas() const { return colunas_; }
     std::span<const double> valores() const { return valores_; }
-    std::span<double> linha(std::size_t l) { return std::span{valores_}.subspan(l * colunas_, colunas_); }
+    std::span<double> linha(std::size_t l) { return linhas(l, 1); }
+    /// `quantas` rows from `l` on, one after another.
+    std::span<double> linhas(std::size_t l, std::size_t quantas) {
+        return std::span{valores_}.subspan(l * colunas_, quantas * colunas_);
+    }
     std::span<const double> linha(std::size_t l) const {
         return std::span{valores_}.subspan(l * colunas_, colunas_);
     }

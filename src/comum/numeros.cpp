@@ -141,7 +141,10 @@ std::string paraTexto(double valor) {
 double Int(double x) { return std::floor(x); }
 
 int paraInteiro(double x) {
-    const double inteiro = std::nearbyint(finito(x));
+    // Next to 1.5 x 2^52 doubles are whole numbers, so that the sum rounds x, half to even; without a call of
+    // the library, since maps round at every cell. A larger x stays outside the range.
+    constexpr double inteiros = 0x1.8p52;
+    const double inteiro = (finito(x) + inteiros) - inteiros;
     if (inteiro < std::numeric_limits<int>::min() || inteiro > std::numeric_limits<int>::max())
         throw ErroExecucao{estouro};
     return static_cast<int>(inteiro);

@@ -19,6 +19,7 @@ class Verificado {
     friend Verificado operator-(Verificado a, Verificado b) { return finito(a.valor_ - b.valor_); }
     friend Verificado operator*(Verificado a, Verificado b) { return finito(a.valor_ * b.valor_); }
     friend Verificado operator/(Verificado a, Verificado b) { return dividir(a.valor_, b.valor_); }
+    friend Verificado fabs(Verificado a) { return std::fabs(a.valor_); }
     friend Verificado sqrt(Verificado a) { return std::sqrt(a.valor_); }
 
   private:

@@ -1,8 +1,10 @@
 #include "comum/arquivo_texto.h"
+#include "comum/erro_execucao.h"
 #include "janelas/aplicacao.h"
 #include "janelas/janelas.h"
 #include "janelas/roteiro_janelas.h"
 #include "shell/sistema.h"
+#include "simulacao/nucleo/largura.h"
 
 #include <QStringList>
 
@@ -73,6 +75,12 @@ int main(int argc, char** argv) {
     const auto argumentos = lerArgumentos(Aplicacao::arguments());
     if (!argumentos) {
         std::cerr << uso;
+        return 2;
+    }
+    try {
+        varenta::larguraEmUso();
+    } catch (const varenta::ErroExecucao& erro) {
+        std::cerr << erro.what() << '\n';
         return 2;
     }
     Janelas janelas;

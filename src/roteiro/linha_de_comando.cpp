@@ -1,6 +1,8 @@
 #include "roteiro/linha_de_comando.h"
 
+#include "comum/erro_execucao.h"
 #include "roteiro/interprete.h"
+#include "simulacao/nucleo/largura.h"
 
 #include <algorithm>
 #include <ostream>
@@ -42,6 +44,12 @@ int executarLinhaDeComando(const std::vector<std::string>& argumentos, std::istr
         return usoErrado;
     }
 
+    try {
+        larguraEmUso();
+    } catch (const ErroExecucao& erro) {
+        erros << erro.what() << '\n';
+        return usoErrado;
+    }
     Interprete interprete{saída, erros};
     interprete.mostrarProgresso = std::ranges::count(argumentos, opçãoDeProgresso) > 0;
     int pior = Interprete::concluído;

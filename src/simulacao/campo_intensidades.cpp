@@ -3,9 +3,9 @@
 #include "comum/erro_execucao.h"
 #include "comum/numeros.h"
 
+#include <algorithm>
 #include <array>
 #include <bit>
-#include <cmath>
 #include <cstdint>
 #include <optional>
 #include <vector>
@@ -13,19 +13,28 @@
 namespace varenta {
 namespace {
 
+/// Points that go into one batch: many, so that making it ready costs nothing, and few enough for the memory.
+constexpr std::size_t pontosDoLote = 4096;
+
 CampoDeIntensidades calcularCampo(const DadosDaSimulação& dados, std::size_t lado) {
     const auto& c = dados.condições;
-    const double cosseno = std::cos(c.rotVento), seno = std::sin(c.rotVento);
+    const auto senos = senosDe(c);
     CampoDeIntensidades campo{Matriz{lado, lado}, dados.S, {}};
-    std::vector<double> y(lado), X(lado), Y(lado);
+    std::vector<double> y(lado), X, Y;
     for (std::size_t i = 0; i < lado; ++i) y[i] = campo.y(i);
-    for (std::size_t j = 0; j < lado; ++j) {
-        const double x = campo.x(j);
-        for (std::size_t i = 0; i < lado; ++i) {
-            X[i] = x * cosseno - y[i] * seno;
-            Y[i] = y[i] * cosseno + x * seno;
+    const std::size_t porLote = std::max<std::size_t>(1, pontosDoLote / lado);
+    for (std::size_t primeira = 0; primeira < lado; primeira += porLote) {
+        const std::size_t quantas = std::min(porLote, lado - primeira);
+        X.clear();
+        Y.clear();
+        for (std::size_t j = primeira; j < primeira + quantas; ++j) {
+            const double x = campo.x(j);
+            for (std::size_t i = 0; i < lado; ++i) {
+                X.push_back(x * senos.cosseno - y[i] * senos.seno);
+                Y.push_back(y[i] * senos.cosseno + x * senos.seno);
+            }
         }
-        intensidadesEmPontos(X, Y, c, campo.intensidades.linha(j), campo.contagem);
+        intensidadesEmPontos(X, Y, c, campo.intensidades.linhas(primeira, quantas), campo.contagem);
     }
     return campo;
 }

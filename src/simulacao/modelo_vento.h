@@ -1,6 +1,7 @@
 #pragma once
 
 #include "aspersor/perfil_radial.h"
+#include "simulacao/nucleo/largura.h"
 
 #include <cstddef>
 #include <span>
@@ -85,10 +86,35 @@ struct MatrizDoModelo {
 };
 MatrizDoModelo matrizDoModelo(double x, double y, const CondiçõesDoPonto& condições);
 
+/// The sines and cosines that all points of one set of conditions share.
+struct Senos {
+    double s2;            // sin(jet)²
+    double cosseno, seno; // of the turn of the wind frame
+};
+Senos senosDe(const CondiçõesDoPonto& condições);
+
+/// The ends of the wetted sector, in radians of theta.
+struct PontasDoSetor {
+    double rad1, rad2;
+
+    /// Whether the sector, both ends included, has the angle `theta` of a point, 0 to a full turn. A sector
+    /// that crosses the positive x axis has it a turn further on or back.
+    bool contêm(double theta) const;
+    /// Whether an end is so close that an arc tangent which is off by a little may be on its other side.
+    bool perto(double theta) const;
+};
+PontasDoSetor pontasDoSetor(double anguloSecoI, double anguloSecoII, double rotacao);
+
 /// The distance (m) from the sprinkler of the ground point (xs, ys) if it lies in the wetted sector, both
 /// ends included, and inside the reach R; otherwise 0. Angles in degrees. A point on an axis gives 0.
 double distanciaNoSetor(double anguloSecoI, double anguloSecoII, double rotacao, double xs, double ys,
                         double R);
+
+/// The dry wedge that a turn of `anguloGiro` degrees leaves: sine and cotangent of its half angle.
+struct CunhaSeca {
+    double seno, cotangente;
+};
+CunhaSeca cunhaSeca(double anguloGiro);
 
 /// Intensity (mm/h) at the ground point (u, w) of a sprinkler of the reach R (m) at calm that turns through
 /// `anguloGiro` degrees, its dry wedge lying ahead, symmetric about the positive u axis: the full circle's,
@@ -118,11 +144,15 @@ struct ContagemDoModelo {
     std::size_t fatorNãoPositivo = 0;
     /// Newton passes in all.
     std::size_t passes = 0;
+    /// Points that were evaluated several at a time, and how many at a time at the most.
+    std::size_t emVetores = 0, faixas = 1;
 };
 
 /// `intensidadeEmPonto` of the points (x[k], y[k]), the same doubles, into `i[k]`; the counts are added to
-/// `contagem`. The three spans have one length. Raises what the first failing point raises.
+/// `contagem`. The three spans have one length. Raises what the first failing point raises; then the points
+/// before it are done and counted. `largura` changes nothing but the time it takes.
 void intensidadesEmPontos(std::span<const double> x, std::span<const double> y,
-                          const CondiçõesDoPonto& condições, std::span<double> i, ContagemDoModelo& contagem);
+                          const CondiçõesDoPonto& condições, std::span<double> i, ContagemDoModelo& contagem,
+                          Largura largura = larguraEmUso());
 
 } // namespace varenta

@@ -1,6 +1,7 @@
 #include "simulacao/modelo_vento.h"
 
 #include "apoio/atalhos.h"
+#include "apoio/condicoes_de_teste.h"
 #include "comum/erro_execucao.h"
 #include "simulacao/perfil_em.h"
 
@@ -14,34 +15,10 @@
 namespace varenta {
 namespace {
 
+using teste::condiçõesDeTeste;
 using teste::erroDe;
-
-/// A profile with a value of its own at every point: 20 mm/h at the sprinkler, falling, 0 at the reach.
-PontosDoPerfil perfilDeTeste() {
-    PontosDoPerfil intensidades{};
-    for (std::size_t k = 0; k < 21; ++k) intensidades[k] = 20 - 0.7 * static_cast<double>(k);
-    return intensidades;
-}
-
-/// A sprinkler of 40 m that waters all around, with the parameters that the screens start from, at no wind.
-CondiçõesDoPonto condiçõesDeTeste() {
-    constexpr double R = 40;
-    return {.R = R,
-            .A = 0.0362 * R,
-            .B = 0.0131 * R,
-            .C = -0.0097 * R,
-            .D = 0.0026 * R,
-            .E = 0.4003 * R,
-            .F = -0.3361 * R,
-            .W = 0,
-            .anguloJato = radianos(24),
-            .rotVento = rotaçãoDoVento(0),
-            .anguloSecoI = 0,
-            .anguloSecoII = 0,
-            .rotacao = 0,
-            .anguloGiro = 360,
-            .intensidades = perfilDeTeste()};
-}
+using teste::perfilDeTeste;
+using teste::sortearComuns;
 
 /// The same with all six parameters 0.
 CondiçõesDoPonto semParâmetros() {
@@ -172,22 +149,6 @@ TEST(ModeloDeVento, OPontoComVentoDeUmCasoFeitoÀMão) {
     const auto p = pontoComVento(3, 4, c);
     EXPECT_NEAR(p.xv, 3 - 5.5 - pqr * 3 * 2, 1e-12);
     EXPECT_NEAR(p.yv, 4 - pqr * 4 * 2, 1e-12);
-}
-
-/// Random conditions near those of the screens, with wind up to `maiorVento`.
-CondiçõesDoPonto sortearComuns(std::mt19937_64& sorteio, double maiorVento) {
-    const auto entre = [&](double a, double b) { return std::uniform_real_distribution{a, b}(sorteio); };
-    auto c = condiçõesDeTeste();
-    c.R = entre(15, 65);
-    for (double* p : {&c.A, &c.B, &c.C, &c.D, &c.E, &c.F}) *p *= c.R / 40 * entre(0.8, 1.2);
-    c.W = entre(0, maiorVento);
-    c.rotVento = rotaçãoDoVento(std::floor(entre(0, 361)));
-    c.anguloSecoI = std::floor(entre(0, 179));
-    c.anguloSecoII = std::floor(entre(0, 179));
-    c.rotacao = std::floor(entre(-360, 361));
-    c.anguloGiro = 360 - (c.anguloSecoI + c.anguloSecoII);
-    for (auto& i : c.intensidades) i = entre(0, 15);
-    return c;
 }
 
 TEST(ModeloDeVento, AMatrizÉADerivadaDoPontoComVento) {
@@ -372,166 +333,6 @@ TEST(DistanciaNoSetor, PontoSobreUmEixoDáZero) {
         EXPECT_EQ(distanciaNoSetor(0, 0, 0, x, y, 40), 0);
 }
 
-// The batch against the point-wise reference.
-
-/// Conditions far from any that a screen would hold: they make the model overflow, divide by zero, stop.
-CondiçõesDoPonto sortearAbsurdas(std::mt19937_64& sorteio) {
-    const auto entre = [&](double a, double b) { return std::uniform_real_distribution{a, b}(sorteio); };
-    const auto raras = [&](int uma) { return sorteio() % static_cast<unsigned>(uma) == 0; };
-    auto c = sortearComuns(sorteio, 10);
-    for (double* p : {&c.A, &c.B, &c.C, &c.D, &c.E, &c.F, &c.W}) {
-        if (raras(2)) *p *= std::pow(10, entre(-3, 4)) * (raras(2) ? -1 : 1);
-        if (raras(8)) *p = 0;
-        if (raras(40)) *p = std::pow(10, entre(100, 305));
-    }
-    if (raras(6)) c.R *= std::pow(10, entre(-4, 3));
-    if (raras(40)) c.R = 0;
-    if (raras(3)) c.anguloJato = radianos(entre(0, 90));
-    if (raras(20)) c.anguloJato = 0;
-    if (raras(20)) c.anguloGiro = 0;
-    return c;
-}
-
-struct Pontos {
-    std::vector<double> x, y;
-};
-
-Pontos sortearPontos(std::mt19937_64& sorteio, double R, std::size_t quantos) {
-    const auto entre = [&](double a, double b) { return std::uniform_real_distribution{a, b}(sorteio); };
-    Pontos p;
-    const double largura = R > 0 ? 1.4 * R : 10;
-    for (std::size_t k = 0; k < quantos; ++k) {
-        p.x.push_back(entre(-largura, largura));
-        p.y.push_back(entre(-largura, largura));
-        switch (sorteio() % 400) {
-        case 0:
-            p.x.back() = 0;
-            break;
-        case 1:
-            p.y.back() = 0;
-            break;
-        case 2:
-            p.x.back() *= 1e170;
-            break;
-        case 3:
-            p.y.back() *= 1e-200;
-            break;
-        default:
-            break;
-        }
-    }
-    return p;
-}
-
-/// What the point-wise reference gives at each point: a value or an error.
-struct Referência {
-    std::vector<IntensidadeNoPonto> valores;
-    std::vector<std::string> erros;
-};
-
-Referência umAUm(const Pontos& p, const CondiçõesDoPonto& c) {
-    Referência r{std::vector<IntensidadeNoPonto>(p.x.size()), std::vector<std::string>(p.x.size())};
-    for (std::size_t k = 0; k < p.x.size(); ++k)
-        r.erros[k] = erroDe([&] { r.valores[k] = intensidadeEmPonto(p.x[k], p.y[k], c); });
-    return r;
-}
-
-/// Holds the batch over the points from `de` up to `até`, none of which fails, against the reference.
-void exigirTrecho(const Pontos& p, const CondiçõesDoPonto& c, const Referência& r, std::size_t de,
-                  std::size_t até) {
-    std::vector<double> i(até - de);
-    ContagemDoModelo contagem{.pontos = 1000, .semConvergência = 100, .fatorNãoPositivo = 10, .passes = 1};
-    intensidadesEmPontos(std::span{p.x}.subspan(de, até - de), std::span{p.y}.subspan(de, até - de), c, i,
-                         contagem);
-    std::size_t semConvergência = 100, fatorNãoPositivo = 10, passes = 1;
-    for (std::size_t k = de; k < até; ++k) {
-        const auto& ponto = r.valores[k];
-        ASSERT_EQ(std::bit_cast<std::uint64_t>(i[k - de]), std::bit_cast<std::uint64_t>(ponto.valor))
-            << p.x[k] << ", " << p.y[k];
-        ASSERT_TRUE(std::isfinite(ponto.valor));
-        semConvergência += !ponto.convergiu;
-        fatorNãoPositivo += !ponto.fatorPositivo;
-        passes += static_cast<std::size_t>(ponto.passes);
-    }
-    ASSERT_EQ(contagem.pontos, 1000 + (até - de));
-    ASSERT_EQ(contagem.semConvergência, semConvergência);
-    ASSERT_EQ(contagem.fatorNãoPositivo, fatorNãoPositivo);
-    ASSERT_EQ(contagem.passes, passes);
-}
-
-struct Cobertura {
-    std::size_t pontos = 0, divisões = 0, estouros = 0, semConvergência = 0, fatorNãoPositivo = 0;
-};
-
-void compararLote(const Pontos& p, const CondiçõesDoPonto& c, Cobertura& cobertura) {
-    const auto r = umAUm(p, c);
-    const std::size_t n = p.x.size();
-    bool primeiraFalha = true;
-    for (std::size_t de = 0; de < n;) {
-        std::size_t até = de;
-        while (até < n && r.erros[até].empty()) ++até;
-        ASSERT_NO_FATAL_FAILURE(exigirTrecho(p, c, r, de, até));
-        if (até < n) {
-            // The whole batch raises what its first failing point raises, and each failing point its own.
-            const std::size_t quantos = std::exchange(primeiraFalha, false) ? n : 1;
-            const std::size_t início = quantos == n ? 0 : até;
-            std::vector<double> i(quantos);
-            ContagemDoModelo contagem;
-            ASSERT_EQ(erroDe([&] {
-                          intensidadesEmPontos(std::span{p.x}.subspan(início, quantos),
-                                               std::span{p.y}.subspan(início, quantos), c, i, contagem);
-                      }),
-                      r.erros[até]);
-            (r.erros[até] == divisãoPorZero ? cobertura.divisões : cobertura.estouros) += 1;
-        }
-        de = até + 1;
-    }
-    for (std::size_t k = 0; k < n; ++k) {
-        if (!r.erros[k].empty()) continue;
-        cobertura.semConvergência += !r.valores[k].convergiu;
-        cobertura.fatorNãoPositivo += !r.valores[k].fatorPositivo;
-    }
-    cobertura.pontos += n;
-}
-
-TEST(LoteDoModeloDeVento, DáOsMesmosDoublesQuePontoAPontoEmMeioMilhãoDePontosComuns) {
-    std::mt19937_64 sorteio{2024};
-    Cobertura cobertura;
-    while (cobertura.pontos < 600'000) {
-        const auto c = sortearComuns(sorteio, 10);
-        ASSERT_NO_FATAL_FAILURE(compararLote(sortearPontos(sorteio, c.R, 301), c, cobertura));
-    }
-    EXPECT_GT(cobertura.semConvergência, 0u);
-    EXPECT_GT(cobertura.fatorNãoPositivo, 0u);
-    EXPECT_GT(cobertura.divisões, 0u);
-}
-
-TEST(LoteDoModeloDeVento, DáOsMesmosDoublesEOsMesmosErrosEmMeioMilhãoDePontosAbsurdos) {
-    std::mt19937_64 sorteio{2025};
-    Cobertura cobertura;
-    while (cobertura.pontos < 600'000) {
-        const auto c = sortearAbsurdas(sorteio);
-        ASSERT_NO_FATAL_FAILURE(compararLote(sortearPontos(sorteio, c.R, 97), c, cobertura));
-    }
-    EXPECT_GT(cobertura.semConvergência, 1000u);
-    EXPECT_GT(cobertura.fatorNãoPositivo, 1000u);
-    EXPECT_GT(cobertura.divisões, 1000u);
-    EXPECT_GT(cobertura.estouros, 1000u);
-}
-
-TEST(LoteDoModeloDeVento, DáOsMesmosDoublesNoCírculoInteiroEComACunhaSecaÀFrente) {
-    std::mt19937_64 sorteio{2027};
-    for (const auto setor : {Setor::círculoInteiro, Setor::semCunhaÀFrente}) {
-        Cobertura cobertura;
-        while (cobertura.pontos < 100'000) {
-            auto c = sortearComuns(sorteio, 10);
-            c.setor = setor;
-            c.anguloGiro = 180 + 30 * static_cast<double>(sorteio() % 7);
-            ASSERT_NO_FATAL_FAILURE(compararLote(sortearPontos(sorteio, c.R, 301), c, cobertura));
-        }
-    }
-}
-
 TEST(IntensidadeSetor, EmVoltaInteiraNenhumPontoFicaSeco) {
     const auto perfil = perfilDeTeste();
     for (double theta = 1; theta < 360; theta += 1) {
@@ -572,15 +373,6 @@ TEST(IntensidadeSetor, UmPontoComUZeroLêOLugarDoAspersor) {
 TEST(IntensidadeSetor, AlémDoAlcanceÉZero) {
     EXPECT_EQ(intensidadeSetor(perfilDeTeste(), -40.001, 0, 240, 40), 0);
     EXPECT_EQ(intensidadeSetor(perfilDeTeste(), 41, 1, 240, 40), 0);
-}
-
-TEST(LoteDoModeloDeVento, LotesDeQualquerTamanhoValemComoPontoAPonto) {
-    std::mt19937_64 sorteio{2026};
-    Cobertura cobertura;
-    for (std::size_t quantos = 0; quantos <= 40; ++quantos) {
-        auto c = sortearComuns(sorteio, 6);
-        ASSERT_NO_FATAL_FAILURE(compararLote(sortearPontos(sorteio, c.R, quantos), c, cobertura));
-    }
 }
 
 } // namespace

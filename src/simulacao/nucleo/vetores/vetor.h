@@ -1,0 +1,171 @@
+#pragma once
+
+#include <immintrin.h>
+
+#include <cstddef>
+
+/// Vectors of doubles with one face for the three widths of x86-64: `VARENTA_BITS` says how many bits this
+/// file is compiled for (128: SSE2; 256: AVX2 and FMA; 512: AVX-512F). Every operation is that of doubles,
+/// lane by lane, with the same rounding.
+///
+/// All of it has internal linkage, so that one source can be compiled for each width into one program without
+/// the linker ever taking one width's copy for another's.
+namespace varenta {
+namespace {
+
+// The instructions. `Registro` is the register, `Marcas` a truth value for each of its lanes.
+#if VARENTA_BITS == 512
+using Registro = __m512d;
+using Marcas = __mmask8;
+inline Registro repetir(double a) { return _mm512_set1_pd(a); }
+inline Registro ler(const double* de) { return _mm512_loadu_pd(de); }
+inline void gravar(double* em, Registro a) { _mm512_storeu_pd(em, a); }
+inline Registro raiz(Registro a) { return _mm512_maskz_sqrt_pd(0xff, a); }
+inline Registro módulo(Registro a) { return _mm512_abs_pd(a); }
+inline Registro vezesMais(Registro a, Registro b, Registro c) { return _mm512_fmadd_pd(a, b, c); }
+inline Marcas menor(Registro a, Registro b) { return _mm512_cmp_pd_mask(a, b, _CMP_LT_OQ); }
+inline Marcas menorOuIgual(Registro a, Registro b) { return _mm512_cmp_pd_mask(a, b, _CMP_LE_OQ); }
+inline Marcas igual(Registro a, Registro b) { return _mm512_cmp_pd_mask(a, b, _CMP_EQ_OQ); }
+inline Marcas e(Marcas a, Marcas b) { return a & b; }
+inline Marcas ou(Marcas a, Marcas b) { return a | b; }
+inline Marcas ouUm(Marcas a, Marcas b) { return a ^ b; }
+inline Marcas não(Marcas a) { return static_cast<Marcas>(~a); }
+inline unsigned emBits(Marcas a) { return a; }
+inline unsigned contar(Marcas a) { return static_cast<unsigned>(__builtin_popcount(a)); }
+inline Registro escolher(Marcas m, Registro sim, Registro não) { return _mm512_mask_blend_pd(m, não, sim); }
+#elif VARENTA_BITS == 256
+using Registro = __m256d;
+using Marcas = __m256d;
+inline Registro repetir(double a) { return _mm256_set1_pd(a); }
+inline Registro ler(const double* de) { return _mm256_loadu_pd(de); }
+inline void gravar(double* em, Registro a) { _mm256_storeu_pd(em, a); }
+inline Registro raiz(Registro a) { return _mm256_sqrt_pd(a); }
+inline Registro módulo(Registro a) { return _mm256_andnot_pd(_mm256_set1_pd(-0.0), a); }
+inline Registro vezesMais(Registro a, Registro b, Registro c) { return _mm256_fmadd_pd(a, b, c); }
+inline Marcas menor(Registro a, Registro b) { return _mm256_cmp_pd(a, b, _CMP_LT_OQ); }
+inline Marcas menorOuIgual(Registro a, Registro b) { return _mm256_cmp_pd(a, b, _CMP_LE_OQ); }
+inline Marcas igual(Registro a, Registro b) { return _mm256_cmp_pd(a, b, _CMP_EQ_OQ); }
+inline Marcas e(Marcas a, Marcas b) { return _mm256_and_pd(a, b); }
+inline Marcas ou(Marcas a, Marcas b) { return _mm256_or_pd(a, b); }
+inline Marcas ouUm(Marcas a, Marcas b) { return _mm256_xor_pd(a, b); }
+inline Marcas não(Marcas a) { return _mm256_xor_pd(a, _mm256_cmp_pd(a, a, _CMP_TRUE_UQ)); }
+inline unsigned emBits(Marcas a) { return static_cast<unsigned>(_mm256_movemask_pd(a)); }
+inline unsigned contar(Marcas a) { return static_cast<unsigned>(__builtin_popcount(emBits(a))); }
+inline Registro escolher(Marcas m, Registro sim, Registro não) { return _mm256_blendv_pd(não, sim, m); }
+#else
+using Registro = __m128d;
+using Marcas = __m128d;
+inline Registro repetir(double a) { return _mm_set1_pd(a); }
+inline Registro ler(const double* de) { return _mm_loadu_pd(de); }
+inline void gravar(double* em, Registro a) { _mm_storeu_pd(em, a); }
+inline Registro raiz(Registro a) { return _mm_sqrt_pd(a); }
+inline Registro módulo(Registro a) { return _mm_andnot_pd(_mm_set1_pd(-0.0), a); }
+inline Marcas menor(Registro a, Registro b) { return _mm_cmplt_pd(a, b); }
+inline Marcas menorOuIgual(Registro a, Registro b) { return _mm_cmple_pd(a, b); }
+inline Marcas igual(Registro a, Registro b) { return _mm_cmpeq_pd(a, b); }
+inline Marcas e(Marcas a, Marcas b) { return _mm_and_pd(a, b); }
+inline Marcas ou(Marcas a, Marcas b) { return _mm_or_pd(a, b); }
+inline Marcas ouUm(Marcas a, Marcas b) { return _mm_xor_pd(a, b); }
+inline Marcas não(Marcas a) { return _mm_xor_pd(a, _mm_castsi128_pd(_mm_set1_epi32(-1))); }
+inline unsigned emBits(Marcas a) { return static_cast<unsigned>(_mm_movemask_pd(a)); }
+inline unsigned contar(Marcas a) { return (emBits(a) & 1) + (emBits(a) >> 1); }
+inline Registro escolher(Marcas m, Registro sim, Registro não) {
+    return _mm_or_pd(_mm_and_pd(m, sim), _mm_andnot_pd(m, não));
+}
+#endif
+
+constexpr std::size_t faixas = sizeof(Registro) / sizeof(double);
+
+/// A truth value for each lane.
+struct Máscara {
+    Marcas m;
+
+    friend Máscara operator&(Máscara a, Máscara b) { return {e(a.m, b.m)}; }
+    friend Máscara operator|(Máscara a, Máscara b) { return {ou(a.m, b.m)}; }
+    friend Máscara operator^(Máscara a, Máscara b) { return {ouUm(a.m, b.m)}; }
+    friend Máscara operator!(Máscara a) { return {não(a.m)}; }
+    /// The first lane in the lowest bit.
+    unsigned bits() const { return emBits(m); }
+    bool alguma() const { return bits() != 0; }
+    std::size_t quantas() const { return contar(m); }
+    bool todas() const { return bits() == (1u << faixas) - 1; }
+};
+
+/// A double in each lane. A plain double stands for itself in all of them.
+struct Vetor {
+    Registro v;
+
+    Vetor() = default;
+    Vetor(Registro registro) : v{registro} {}
+    Vetor(double a) : v{repetir(a)} {}
+
+    static Vetor lido(const double* de) { return ler(de); }
+    void gravar(double* em) const { varenta::gravar(em, v); }
+
+    friend Vetor operator-(Vetor a) { return -a.v; }
+    friend Vetor operator+(Vetor a, Vetor b) { return a.v + b.v; }
+    friend Vetor operator-(Vetor a, Vetor b) { return a.v - b.v; }
+    friend Vetor operator*(Vetor a, Vetor b) { return a.v * b.v; }
+    friend Vetor operator/(Vetor a, Vetor b) { return a.v / b.v; }
+    friend Vetor sqrt(Vetor a) { return raiz(a.v); }
+    friend Vetor fabs(Vetor a) { return módulo(a.v); }
+    friend Máscara operator<(Vetor a, Vetor b) { return {menor(a.v, b.v)}; }
+    friend Máscara operator<=(Vetor a, Vetor b) { return {menorOuIgual(a.v, b.v)}; }
+    friend Máscara operator>(Vetor a, Vetor b) { return b < a; }
+    friend Máscara operator>=(Vetor a, Vetor b) { return b <= a; }
+    friend Máscara operator==(Vetor a, Vetor b) { return {igual(a.v, b.v)}; }
+};
+
+/// `sim` in the lanes where `m` is true, `não` in the others.
+inline Vetor onde(Máscara m, Vetor sim, Vetor não) { return escolher(m.m, sim.v, não.v); }
+
+/// False in all lanes.
+inline Máscara nenhuma() { return Vetor{0.0} < Vetor{0.0}; }
+
+/// Neither infinite nor NaN.
+inline Máscara finitas(Vetor a) { return a - a == Vetor{0.0}; }
+
+#if VARENTA_BITS == 128
+/// Without fused operations a divisor known beforehand gains nothing.
+using DivisorConhecido = Vetor;
+#else
+/// a b + c, rounded once.
+inline Vetor vezesMais(Vetor a, Vetor b, Vetor c) { return vezesMais(a.v, b.v, c.v); }
+
+/// A divisor b of several numbers: one true division, for its reciprocal, and for each number a
+///
+///     p = RN(1 / b)    q = RN(a p)    s = RN(a - q b)    a / b = RN(q + s p)
+///
+/// with a single rounding in each. The result is the correctly rounded quotient, that of the division
+/// instruction bit for bit, if a isn't 0 and nothing leaves the range of normal numbers on the way. For then
+/// b and a can be scaled to 1 <= b < 2 and 1 <= a < 2 (b of 1 is trivial). With u = 2^-53:
+///
+/// - |p - 1/b| <= u/2, so that q is off a / b by less than one unit in the last place where a >= b. Where a <
+/// b
+///   that unit is u, and q is off by less than (a + 1) u / 2 < 1.5 u.
+/// - The final sum is off a / b by |s| |p - 1/b|, plus |p| times what the rounding of s loses. That can only
+///   change the rounding if a middle M of two neighbouring doubles lies between both; no quotient lies on
+///   one.
+/// - If M is the middle next to q, half a unit off, then s is exact. Let b = B 2^-52 and s = m 2^-52 units:
+///   a / b is beyond M if 2 m > B, so by one in whole numbers at least, and s p = (s / b)(1 + d) with
+///   |d| <= b u / 2, too little to undo a difference of one in B, as B (B + 1) < 2^106.
+/// - If M is a unit and a half off, a and b must be the two doubles next to 2 and below it, a first. These
+/// give
+///   q = 1, s = -2^-52 and the right quotient.
+///
+/// Which range is safe the caller must know: magnitudes within 2^-900 and 2^900 for a, b, 1 / b and a / b
+/// are.
+struct DivisorConhecido : Vetor {
+    Vetor recíproco;
+
+    explicit DivisorConhecido(Vetor b) : Vetor{b}, recíproco{Vetor{1.0} / b} {}
+
+    friend Vetor operator/(Vetor a, const DivisorConhecido& b) {
+        const Vetor q = a * b.recíproco;
+        return vezesMais(vezesMais(-q, b, a), b.recíproco, q);
+    }
+};
+#endif
+
+} // namespace
+} // namespace varenta
