@@ -2,6 +2,7 @@
 
 #include "comum/arquivo_texto.h"
 #include "comum/erro_execucao.h"
+#include "comum/limites.h"
 #include "comum/numeros.h"
 
 namespace varenta {

@@ -8,9 +8,6 @@
 /// grid, separated by tabs. Blank lines at the end are passed over.
 namespace varenta {
 
-/// More collectors a side, or lines, than any test has; a grid of so many still fits into memory.
-inline constexpr int maiorContagem = 1000;
-
 /// A file that is no test, with the message that answers it.
 class EnsaioRecusado : public std::runtime_error {
   public:

@@ -3,6 +3,7 @@
 #include "ajuste/verificacoes_ensaio.h"
 #include "comum/arquivo_texto.h"
 #include "comum/erro_execucao.h"
+#include "comum/limites.h"
 #include "comum/numeros.h"
 #include "comum/operacoes.h"
 #include "comum/plataforma.h"

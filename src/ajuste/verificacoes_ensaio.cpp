@@ -1,6 +1,7 @@
 #include "ajuste/verificacoes_ensaio.h"
 
 #include "ajuste/arquivo_ensaio.h"
+#include "comum/limites.h"
 #include "comum/numeros.h"
 #include "comum/operacoes.h"
 #include "comum/plataforma.h"

@@ -1,6 +1,7 @@
 #include "comum/arquivo_texto.h"
 
 #include "comum/erro_execucao.h"
+#include "comum/limites.h"
 
 #include <array>
 #include <cerrno>
@@ -298,7 +299,9 @@ std::string lerTexto(const std::string& caminho) {
 std::string LeitorDeLinhas::próxima() {
     if (fim()) throw ErroExecucao{"Entrada após o fim do arquivo"};
     const auto quebra = texto_.find('\n', posição_);
-    auto linha = texto_.substr(posição_, quebra == std::string::npos ? quebra : quebra - posição_);
+    const auto fimDaLinha = quebra == std::string::npos ? texto_.size() : quebra;
+    if (fimDaLinha - posição_ > maiorLinha) throw ErroExecucao{"a linha é longa demais"};
+    auto linha = texto_.substr(posição_, fimDaLinha - posição_);
     posição_ = quebra == std::string::npos ? texto_.size() : quebra + 1;
     if (linha.ends_with('\r')) linha.pop_back();
     return linha;

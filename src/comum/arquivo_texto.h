@@ -8,14 +8,12 @@
 /// Text files: read whatever their age left them as, written one way, replaced whole or not at all.
 namespace varenta {
 
-/// Larger files are refused before anything of them is read.
-inline constexpr std::size_t maiorArquivo = std::size_t{64} << 20;
-
 /// The bytes of a text file as UTF-8 without a byte order mark. Bytes that are no UTF-8 are taken as
 /// Windows-1252, with its five undefined bytes as the control characters of the same number.
 std::string decodificar(std::string_view bytes);
 
-/// The whole file, decoded. Raises a run-time error with the reason in Portuguese where it can't be read.
+/// The whole file, decoded; `maiorArquivo` bytes at the most. Raises a run-time error with the reason in
+/// Portuguese where it can't be read.
 std::string lerTexto(const std::string& caminho);
 
 /// The lines of a text file, one after another. LF and CR LF both end a line; the last one may lack its end.
@@ -25,7 +23,8 @@ class LeitorDeLinhas {
     explicit LeitorDeLinhas(const std::string& caminho) : texto_{lerTexto(caminho)} {}
 
     bool fim() const { return posição_ >= texto_.size(); }
-    /// The next line without its end. Raises "Entrada após o fim do arquivo" where there is none.
+    /// The next line without its end. Raises "Entrada após o fim do arquivo" where there is none, and an
+    /// error of its own for one longer than `maiorLinha`.
     std::string próxima();
 
   private:

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "comum/desenho.h"
+#include "comum/limites.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -117,10 +118,6 @@ struct Barra {
 };
 
 enum class Alinhamento { esquerda, centro, direita };
-
-/// More cells than any table of the system needs. A typed number that asks for more is refused before memory
-/// is.
-inline constexpr std::int64_t maisCélulas = 10'000'000;
 
 /// A table of texts with a fixed header row and a fixed first column. Cells are counted from 0, headers
 /// included.

@@ -1,6 +1,7 @@
 #include "roteiro/interprete.h"
 
 #include "comum/arquivo_texto.h"
+#include "comum/limites.h"
 #include "comum/numeros.h"
 #include "roteiro/apresentacao.h"
 #include "roteiro/palavras.h"

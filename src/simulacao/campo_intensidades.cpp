@@ -1,6 +1,7 @@
 #include "simulacao/campo_intensidades.h"
 
 #include "comum/erro_execucao.h"
+#include "comum/limites.h"
 #include "comum/numeros.h"
 
 #include <algorithm>

@@ -14,12 +14,8 @@ struct DadosDaSimulação {
     double V;
 };
 
-/// A field larger than this a side is refused ("Memória insuficiente"): no sprinkler needs it, and a wild set
-/// of parameters would otherwise keep the program at work without end.
-inline constexpr int maiorLadoDoCampo = 4000;
-
 /// The number of points a side of the square field, even, at least 2: from the reach it grows until a probe
-/// straight downwind of the sprinkler stays dry.
+/// straight downwind of the sprinkler stays dry. Raises "Memória insuficiente" above `maiorLadoDoCampo`.
 int ladoDoCampo(const DadosDaSimulação& dados);
 
 /// The intensities of precipitation (mm/h) on the ground around the sprinkler, at the centres of `lado` x

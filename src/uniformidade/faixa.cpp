@@ -1,7 +1,7 @@
 #include "uniformidade/faixa.h"
 
-#include "comum/controles.h"
 #include "comum/erro_execucao.h"
+#include "comum/limites.h"
 #include "comum/numeros.h"
 #include "comum/reamostrar.h"
 #include "simulacao/funcoes.h"

@@ -2,6 +2,7 @@
 
 #include "apoio/atalhos.h"
 #include "apoio/pasta_temporaria.h"
+#include "comum/limites.h"
 
 #include <gtest/gtest.h>
 
@@ -140,6 +141,13 @@ TEST(LeitorDeLinhas, AÚltimaLinhaPodeNãoTerFim) {
     using Linhas = std::vector<std::string>;
     EXPECT_EQ(linhasDe("a\r\nb"), (Linhas{"a", "b"}));
     EXPECT_EQ(linhasDe("a"), (Linhas{"a"}));
+}
+
+TEST(LeitorDeLinhas, UmaLinhaLongaDemaisÉRecusada) {
+    EXPECT_EQ(linhasDe(std::string(maiorLinha, 'a') + "\nb").front().size(), maiorLinha);
+    for (const auto* fim : {"", "\nb"})
+        EXPECT_EQ(erroDe([&] { linhasDe(std::string(maiorLinha + 1, 'a') + fim); }),
+                  "a linha é longa demais");
 }
 
 TEST(LeitorDeLinhas, ArquivoVazioNãoTemLinhas) { EXPECT_TRUE(linhasDe("").empty()); }
