@@ -1,7 +1,6 @@
 #include "ajuste/ajustar.h"
 
-#include "ajuste/busca.h"
-#include "ajuste/form_ajcar.h"
+#include "ajuste/andamento.h"
 #include "ajuste/form_graf.h"
 #include "ajuste/form_migraf.h"
 #include "ajuste/ler_ensaio.h"
@@ -14,28 +13,6 @@
 
 namespace varenta {
 namespace {
-
-/// `Form_AjCar` shows as long as this lasts.
-struct ProgressoNaTela {
-    ProgressoNaTela() { form_AjCar.mostrar(); }
-    ProgressoNaTela(const ProgressoNaTela&) = delete;
-    ProgressoNaTela& operator=(const ProgressoNaTela&) = delete;
-    ~ProgressoNaTela() { form_AjCar.descarregar(); }
-
-    static void escrever(const std::string& texto) {
-        if (form_AjCar->Label1.texto == texto) return;
-        form_AjCar->Label1.texto = texto;
-        relatar();
-    }
-
-    static void encher(double valor) {
-        if (form_AjCar->ProgressBar1.valor == valor) return;
-        form_AjCar->ProgressBar1.valor = valor;
-        relatar();
-    }
-
-    static void relatar() { plataforma::progresso(form_AjCar->ProgressBar1.valor, form_AjCar->Label1.texto); }
-};
 
 /// "1.023", "1.023 e 0.987", "1.023, 0.987 e 1.100".
 std::string listar(const std::vector<std::string>& textos) {
@@ -72,14 +49,13 @@ std::vector<Ensaio> lerEnsaios(const TelaDeAjuste& tela, const AspersorDoAjuste&
 
 /// Searches, and tells in plain words what a run-time error of the search means.
 template <class Ensaio>
-ResultadoDaBusca buscar(const std::vector<Ensaio>& ensaios, double tolerância, const std::string& unidade) {
-    const OuvinteDaBusca ouvinte{
-        .desvio =
-            [&](double D) { ProgressoNaTela::escrever("Desvio Médio: " + Format(D, "0.000") + unidade); },
-        .barra = ProgressoNaTela::encher};
+ResultadoDaBusca buscar(const std::vector<Ensaio>& ensaios, double tolerância, Andamento& andamento) {
     ContagemDoModelo contagem;
+    std::size_t pontos = 0;
+    for (const auto& ensaio : ensaios) pontos += ensaio.X.size();
     try {
-        return buscarParametros(objetivoDosEnsaios(ensaios, contagem), tolerância, ouvinte);
+        return buscarParametros(andamento.vigiar(objetivoDosEnsaios(ensaios, contagem), pontos), tolerância,
+                                andamento.ouvinte());
     } catch (const ErroExecucao& e) {
         throw ErroExecucao{e.what() + std::string{": o ajuste não pôde continuar com estes ensaios. Em geral "
                                                   "ajuda informar um vento acima de 0 m/s e coletores que "
@@ -101,10 +77,10 @@ void escreverResultado(const TelaDeAjuste& tela, const ResultadoDaBusca& resulta
 template <class Ensaio>
 void ajustar(const TelaDeAjuste& tela, Ensaio (*ler)(int, const AspersorDoAjuste&), double tolerância,
              const std::string& unidade, Rotulo& (*rótuloDoDesvio)(int)) {
-    const ProgressoNaTela progresso;
+    Andamento andamento{unidade};
     const auto aspersor = lerAspersor(tela);
     const auto ensaios = lerEnsaios(tela, aspersor, ler);
-    const auto resultado = buscar(ensaios, tolerância, unidade);
+    const auto resultado = buscar(ensaios, tolerância, andamento);
     escreverResultado(tela, resultado, aspersor.R);
     for (int n = 1; n <= static_cast<int>(ensaios.size()); ++n)
         rótuloDoDesvio(n).texto = "Desvio Médio Geral: " + Format(resultado.desvio, "0.000") + unidade;

@@ -59,6 +59,9 @@ class Busca {
     }
     double desvio() const { return desvio_; }
 
+    void começar(int etapa) const {
+        if (ouvinte_.etapa) ouvinte_.etapa(etapa);
+    }
     void contar(double progresso) { progresso_ = progresso; }
     void avançar(double passo) { mostrar(progresso_ + passo); }
     void mostrar(double progresso) {
@@ -277,8 +280,11 @@ double desvioMédio(const Avaliação& avaliação) {
 ResultadoDaBusca buscarParametros(const Objetivo& objetivo, double tolerância,
                                   const OuvinteDaBusca& ouvinte) {
     Busca busca{objetivo, tolerância, ouvinte};
+    busca.começar(1);
     auto melhor = descerPeloSimplex(busca);
+    busca.começar(2);
     descerPeloGradiente(busca, melhor);
+    busca.começar(3);
     descerPorNewton(busca, melhor);
     return {melhor.p, busca.desvio()};
 }

@@ -40,6 +40,8 @@ struct OuvinteDaBusca {
     std::function<void(double desvio)> desvio;
     /// The bar: 0 to 25 in the first stage, to 35 in the second, 56 at the end.
     std::function<void(double valor)> barra;
+    /// A stage begins, 1 to 3. May be left out.
+    std::function<void(int número)> etapa = {};
 };
 
 struct ResultadoDaBusca {

@@ -19,30 +19,36 @@
 namespace varenta {
 namespace {
 
-/// A test made up to the sprinkler's flow, and the intensities that the parameters shown give at its points.
+/// A test and the intensities that the parameters shown give at its points.
 template <class Ensaio>
-struct Comparação {
+struct Estimativa {
     Ensaio ensaio;
     std::vector<double> intensidades;
 };
 
 template <class Ensaio>
-Comparação<Ensaio> estimarComOMostrado(Aspersor aspersor, Ensaio ensaio, const AspersorDoAjuste& dados) {
-    igualarÀVazão(ensaio, dados.Q);
+Estimativa<Ensaio> estimarComOMostrado(Aspersor aspersor, Ensaio ensaio, double R) {
     ContagemDoModelo contagem;
-    auto intensidades = intensidadesEstimadas(
-        ensaio, parametrosMostrados(telaDeAjuste(aspersor).controles, dados.R), contagem);
+    auto intensidades =
+        intensidadesEstimadas(ensaio, parametrosMostrados(telaDeAjuste(aspersor).controles, R), contagem);
     return {std::move(ensaio), std::move(intensidades)};
 }
 
-Comparação<EnsaioDeMalha> estimarMalha(Aspersor aspersor, int n) {
+/// The estimates beside the observations, which are made up to the sprinkler's flow.
+template <class Ensaio>
+Estimativa<Ensaio> compararComOMostrado(Aspersor aspersor, int n,
+                                        Ensaio (*ler)(int, const AspersorDoAjuste&)) {
     const auto dados = lerAspersor(telaDeAjuste(aspersor));
-    return estimarComOMostrado(aspersor, lerEnsaioDeMalha(n, dados), dados);
+    auto ensaio = ler(n, dados);
+    igualarÀVazão(ensaio, dados.Q);
+    return estimarComOMostrado(aspersor, std::move(ensaio), dados.R);
 }
 
-Comparação<EnsaioMóvel> estimarMóvel(Aspersor aspersor, int n) {
+/// The estimates alone: the test's readings may be gone.
+template <class Ensaio>
+Estimativa<Ensaio> estimarSemLeituras(Aspersor aspersor, int n, Ensaio (*ler)(int, const AspersorDoAjuste&)) {
     const auto dados = lerAspersor(telaDeAjuste(aspersor));
-    return estimarComOMostrado(aspersor, lerEnsaioMóvel(n, dados), dados);
+    return estimarComOMostrado(aspersor, ler(n, dados), dados.R);
 }
 
 /// At least 0.
@@ -56,12 +62,12 @@ std::string comTrêsCasas(const char* texto, double valor, const char* unidade) 
     return texto + Format(valor, "0.000") + unidade;
 }
 
-void escreverDesvio(Rotulo& rótulo, int n, std::span<const double> observados,
-                    std::span<const double> estimados, const char* unidade) {
+std::string textoDoDesvio(int n, std::span<const double> observados, std::span<const double> estimados,
+                          const char* unidade) {
     Avaliação avaliação;
     somarDesvios(avaliação, observados, estimados);
-    rótulo.texto = "Desvio Médio no Ensaio " + std::to_string(n) + ": ";
-    rótulo.texto += comTrêsCasas("", desvioMédio(avaliação), unidade);
+    return "Desvio Médio no Ensaio " + std::to_string(n) +
+           comTrêsCasas(": ", desvioMédio(avaliação), unidade);
 }
 
 void escreverVento(ControlesDeGraf& graf, const ControlesDeEnsaio& ensaio) {
@@ -118,10 +124,10 @@ void copiarDoEnsaio(RegistroFormAjuste& lista, const ControlesDeEnsaio& ensaio, 
 } // namespace
 
 void preencherGraf(Aspersor aspersor, int n) {
-    const auto [ensaio, estimados] = estimarMalha(aspersor, n);
+    const auto [ensaio, estimados] = compararComOMostrado(aspersor, n, lerEnsaioDeMalha);
     auto& f = *form_graf(n).operator->();
     const double maiorObservado = maiorDe(ensaio.observados), maiorEstimado = maiorDe(estimados);
-    escreverDesvio(f.Label17, n, ensaio.observados, estimados, " mm/h");
+    f.Label17.texto = textoDoDesvio(n, ensaio.observados, estimados, " mm/h");
     f.Label13.texto = comTrêsCasas("Maior Precipitação: ", maiorObservado, " mm/h");
     f.Label15.texto = comTrêsCasas("Maior Precipitação: ", maiorEstimado, " mm/h");
     escreverVento(f, *form_E(n).operator->());
@@ -136,11 +142,11 @@ void preencherGraf(Aspersor aspersor, int n) {
 }
 
 void preencherMIgraf(Aspersor aspersor, int n) {
-    const auto [ensaio, intensidades] = estimarMóvel(aspersor, n);
+    const auto [ensaio, intensidades] = compararComOMostrado(aspersor, n, lerEnsaioMóvel);
     auto& f = *form_MIgraf(n).operator->();
     const auto lâminas = lâminasEstimadas(ensaio, intensidades);
     const double maiorLâmina = maiorDe(lâminas), maiorObservada = maiorDe(ensaio.observados);
-    escreverDesvio(f.Label17, n, ensaio.observados, lâminas, " mm");
+    f.Label17.texto = textoDoDesvio(n, ensaio.observados, lâminas, " mm");
     const double maiorIntensidade = maiorDe(intensidades);
     f.Label13.texto = comTrêsCasas("Maior Precipitação: ", maiorIntensidade, " mm/h");
     f.Label20.texto = comTrêsCasas("Maior Lâmina Estimada: ", maiorLâmina, " mm");
@@ -150,15 +156,19 @@ void preencherMIgraf(Aspersor aspersor, int n) {
     const EscalaDeCores escala{maiorIntensidade};
     f.Label14.texto = Format(escala.topo(), "0.0") + " mm/h";
     for (auto* rótulos : {&f.Label5, &f.Label6}) escreverCoordenadas(*rótulos, ensaio);
+    deixarBotões(f, aspersor);
+    // Depths too small for their axis end the drawing: no picture of before stands by the new figures then.
+    f.Picture1.limpar();
+    f.Picture2.limpar();
     desenharProfundidades(f, ensaio, lâminas, std::max(maiorLâmina, maiorObservada));
     pintarMapa(f.Picture2, esquerdaDoSegundo, topoDosMapas, porLinhas(intensidades, ensaio.N), ensaio.N,
                ensaio.e, escala);
-    deixarBotões(f, aspersor);
     form_MIgraf(n).mostrar();
 }
 
 void visualizarValores(Aspersor aspersor, int n) {
-    const auto [ensaio, estimados] = estimarMalha(aspersor, n);
+    if (!aceito(recusaDasEstimativas(*form_E(n).operator->(), n), form_E(n))) return;
+    const auto [ensaio, estimados] = estimarSemLeituras(aspersor, n, lerMalhaSemLeituras);
     auto& f = *form_ajuste1.operator->();
     f.Caption = "Dados de Precipitação Estimados no Ensaio " + std::to_string(n);
     copiarDoEnsaio(f, *form_E(n).operator->(), n);
@@ -171,7 +181,8 @@ void visualizarValores(Aspersor aspersor, int n) {
 }
 
 void visualizarValoresMóvel(Aspersor aspersor, int n) {
-    const auto [ensaio, intensidades] = estimarMóvel(aspersor, n);
+    if (!aceito(recusaDasEstimativas(*form_MiE(n).operator->(), n), form_MiE(n))) return;
+    const auto [ensaio, intensidades] = estimarSemLeituras(aspersor, n, lerMóvelSemLeituras);
     const auto lâminas = lâminasEstimadas(ensaio, intensidades);
     auto& f = *form_MIajuste1.operator->();
     f.Caption = "Dados de Lâmina e Precipitação Estimados no Ensaio " + std::to_string(n);

@@ -3,6 +3,8 @@
 #include "comum/ajuda.h"
 #include "comum/tela.h"
 
+#include <array>
+
 namespace varenta {
 
 /// How far a fit has come. It shows only while one is at work.
@@ -11,11 +13,18 @@ struct RegistroFormAjCar {
 
     Rotulo Label1{.texto = "Desvio médio:"};
     Barra ProgressBar1{.máximo = 56};
+    Rotulo lblEtapa{.texto = "Preparação dos ensaios"};
+    /// The deviation along the bar, with the tick captions of the deviation, 0 to 5.
+    Desenho Picture1;
+    std::array<Rotulo, 6> Label2;
 
     template <class Visita>
     void percorrer(Visita&& visita) {
         visita("Label1", Label1);
         visita("ProgressBar1", ProgressBar1);
+        visita("lblEtapa", lblEtapa);
+        visita("Picture1", Picture1);
+        visita("Label2", Label2, 0);
     }
 };
 

@@ -20,7 +20,7 @@ void form_AjvenOu_Fechar() { encerrarAjuste(Aspersor::outro); }
 void form_AjvenOu_MouseMove() { form_AjvenOu.ponteiro = Ponteiro::padrão; }
 
 void form_AjvenOu_Command18_Click() {
-    descarregarAjuste(Aspersor::outro);
+    deixarAjuste(Aspersor::outro);
     perfilForm.mostrar();
     telaPrincipal->esconder();
 }

@@ -26,7 +26,7 @@ void montarPlanilha(RegistroFormE& f, int lado) {
     entrarNaCélula(planilhaDoEnsaio(f));
 }
 
-/// A number typed makes the grid larger at once, but never smaller: rows and columns beyond it keep their
+/// A number typed makes the grid larger, but never smaller: rows and columns beyond it keep their
 /// readings and lose their headers, until a list is picked from.
 void digitarTamanho(int n) {
     auto& f = *form_E(n).operator->();
@@ -56,6 +56,7 @@ void escolherUnidade(int n) {
     mostrarDiâmetro(f);
 }
 
+/// What was typed stays: the grid keeps its size, as with a smaller number typed.
 void voltarAosPadrões(int n) {
     auto& f = *form_E(n).operator->();
     definirTexto(f.Combo1, "6.0");
@@ -64,9 +65,7 @@ void voltarAosPadrões(int n) {
     definirValor(f.HScroll1, 45);
     marcar(form_E(n), f.Option1);
     marcar(form_E(n), f.Option2);
-    esvaziarCélulas(f.flex_A);
-    definirTexto(f.Text5, "");
-    Erro_plan(n);
+    digitarTamanho(n);
 }
 
 void preencher(int n, const ArquivoDeMalha& arquivo) {
@@ -110,6 +109,7 @@ std::string textoDoArquivo(RegistroFormE& f, const FichaDoAspersor& ficha) {
 
 void salvar(int n, Aspersor aspersor) {
     auto& f = *form_E(n).operator->();
+    confirmarEntrada(f);
     if (aceito(recusaDoSalvamento(f, n), form_E(n)))
         salvarArquivoDeEnsaio(textoDoArquivo(f, fichaDoAspersor(aspersor)));
 }
@@ -123,7 +123,7 @@ void carregar() {
     ligarEnsaio<tela<n>>();
     f.Combo2.aoClicar = [] { escolherTamanho(n); };
     f.Combo1.aoClicar = [] { escolherEspaçamento(n); };
-    f.Combo2.aoMudar = f.Combo1.aoMudar = [] { digitarTamanho(n); };
+    f.Combo2.aoConfirmar = f.Combo1.aoConfirmar = [] { digitarTamanho(n); };
     f.Option1.aoClicar = f.Option4.aoClicar = f.Option3.aoClicar = [] { escolherUnidade(n); };
     f.Option5.aoClicar = [] { abrirArquivo(n); };
     f.Command3.aoClicar = mostrarAjuda<topicos::form_E>;

@@ -34,7 +34,7 @@ void montarPlanilha(RegistroFormMiE& f, int linhas, int colunas) {
     entrarNaCélula(planilhaDoEnsaio(f));
 }
 
-/// A number typed makes the grid larger at once, but never smaller: rows and columns beyond it keep their
+/// A number typed makes the grid larger, but never smaller: rows and columns beyond it keep their
 /// readings and lose their headers, until a list is picked from.
 void digitarTamanho(int n) {
     auto& f = *form_MiE(n).operator->();
@@ -56,9 +56,10 @@ void escolher(int n, Lista& lista, const char* padrão) {
 void escolherUnidade(int n) {
     auto& f = *form_MiE(n).operator->();
     mostrarDiâmetro(f);
-    MIErro_plan(n);
+    digitarTamanho(n);
 }
 
+/// As on the screen of a grid test.
 void voltarAosPadrões(int n) {
     auto& f = *form_MiE(n).operator->();
     definirTexto(f.Combo1, "3");
@@ -71,9 +72,6 @@ void voltarAosPadrões(int n) {
     definirValor(f.HScroll1, 45);
     marcar(form_MiE(n), f.Option4);
     marcar(form_MiE(n), f.Option2);
-    esvaziarCélulas(f.flex_A);
-    definirTexto(f.Text5, "");
-    MIErro_plan(n);
 }
 
 void preencher(int n, const ArquivoMóvel& arquivo) {
@@ -119,6 +117,7 @@ std::string textoDoArquivo(RegistroFormMiE& f, const FichaDoAspersor& ficha) {
 
 void salvar(int n, Aspersor aspersor) {
     auto& f = *form_MiE(n).operator->();
+    confirmarEntrada(f);
     if (aceito(recusaDoSalvamento(f, n), form_MiE(n)))
         salvarArquivoDeEnsaio(textoDoArquivo(f, fichaDoAspersor(aspersor)));
 }
@@ -138,7 +137,7 @@ void carregar() {
     f.Combo3.aoClicar = [] { escolher(n, form_MiE(n)->Combo3, "20"); };
     f.Combo4.aoClicar = [] { escolher(n, form_MiE(n)->Combo4, "2.0"); };
     f.Combo6.aoClicar = [] { escolher(n, form_MiE(n)->Combo6, ""); };
-    f.Combo1.aoMudar = f.Combo3.aoMudar = f.Combo4.aoMudar = [] { digitarTamanho(n); };
+    f.Combo1.aoConfirmar = f.Combo3.aoConfirmar = f.Combo4.aoConfirmar = [] { digitarTamanho(n); };
     f.Option4.aoClicar = f.Option3.aoClicar = [] { escolherUnidade(n); };
     f.Option5.aoClicar = [] { abrirArquivo(n); };
     f.Command3.aoClicar = mostrarAjuda<topicos::form_MiE>;

@@ -31,6 +31,18 @@ double fatorMóvel(const RegistroFormMiE& f) {
     return f.Option3.marcada ? dividir(10, áreaDoColetor(lerPrefixo(f.Text7.texto))) : 1;
 }
 
+EnsaioDeMalha malhaComo(const RegistroFormE& f, const AspersorDoAjuste& aspersor,
+                        std::vector<double> intensidades) {
+    return ensaioDeMalha(aspersor, lerVento(f), inteiroDaLista(f.Combo2), lerPrefixo(f.Combo1.texto),
+                         std::move(intensidades));
+}
+
+EnsaioMóvel móvelComo(const RegistroFormMiE& f, const AspersorDoAjuste& aspersor,
+                      std::vector<double> lâminas) {
+    return ensaioMóvel(aspersor, lerVento(f), 2 * inteiroDaLista(f.Combo3), lerPrefixo(f.Combo4.texto),
+                       lerPrefixo(f.Text1.texto), lerPrefixo(f.Combo6.texto), std::move(lâminas));
+}
+
 } // namespace
 
 EnsaioDeMalha lerEnsaioDeMalha(int n, const AspersorDoAjuste& aspersor) {
@@ -40,7 +52,11 @@ EnsaioDeMalha lerEnsaioDeMalha(int n, const AspersorDoAjuste& aspersor) {
     std::vector<double> intensidades;
     for (int i = 1; i <= N; ++i)
         for (int j = 1; j <= N; ++j) intensidades.push_back(leitura(f.flex_A, i, j) * fator);
-    return ensaioDeMalha(aspersor, lerVento(f), N, lerPrefixo(f.Combo1.texto), std::move(intensidades));
+    return malhaComo(f, aspersor, std::move(intensidades));
+}
+
+EnsaioDeMalha lerMalhaSemLeituras(int n, const AspersorDoAjuste& aspersor) {
+    return malhaComo(*form_E(n).operator->(), aspersor, {});
 }
 
 EnsaioMóvel lerEnsaioMóvel(int n, const AspersorDoAjuste& aspersor) {
@@ -53,8 +69,11 @@ EnsaioMóvel lerEnsaioMóvel(int n, const AspersorDoAjuste& aspersor) {
         for (int k = 1; k <= L; ++k) soma += leitura(f.flex_A, j, k);
         lâminas.push_back(dividir(soma, L) * fator);
     }
-    return ensaioMóvel(aspersor, lerVento(f), N, lerPrefixo(f.Combo4.texto), lerPrefixo(f.Text1.texto),
-                       lerPrefixo(f.Combo6.texto), std::move(lâminas));
+    return móvelComo(f, aspersor, std::move(lâminas));
+}
+
+EnsaioMóvel lerMóvelSemLeituras(int n, const AspersorDoAjuste& aspersor) {
+    return móvelComo(*form_MiE(n).operator->(), aspersor, {});
 }
 
 } // namespace varenta

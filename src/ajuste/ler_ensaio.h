@@ -9,8 +9,14 @@ namespace varenta {
 /// diameter of 0.
 EnsaioDeMalha lerEnsaioDeMalha(int n, const AspersorDoAjuste& aspersor);
 
+/// The same without any readings: where its collectors stand, and its wind.
+EnsaioDeMalha lerMalhaSemLeituras(int n, const AspersorDoAjuste& aspersor);
+
 /// The test of `Form_MiE1` to `Form_MiE3`, each position's depth being the mean of its lines, in mm. Raises
 /// "Divisão por zero" for a diameter of 0.
 EnsaioMóvel lerEnsaioMóvel(int n, const AspersorDoAjuste& aspersor);
+
+/// The same without any readings.
+EnsaioMóvel lerMóvelSemLeituras(int n, const AspersorDoAjuste& aspersor);
 
 } // namespace varenta

@@ -18,12 +18,11 @@ namespace {
 
 constexpr std::array métodos = {Método::malha, Método::autopropelido};
 
-bool ensaioAceito(Tela<RegistroFormE>& tela, int n) {
-    return aceito(recusaDoAjuste(*tela.operator->(), n), tela);
-}
-
-bool ensaioAceito(Tela<RegistroFormMiE>& tela, int n) {
-    return aceito(recusaDoAjuste(*tela.operator->(), n), tela);
+template <class Registro>
+bool ensaioAceito(Tela<Registro>& tela, int n) {
+    auto& f = *tela.operator->();
+    confirmarEntrada(f);
+    return aceito(recusaDoAjuste(f, n), tela);
 }
 
 template <class Registro>
@@ -38,6 +37,16 @@ bool vazãoAceita(Aspersor aspersor, const Rotulo& vazão) {
     if (aspersor == Aspersor::doCatálogo || lerPrefixo(vazão.texto) > 0) return true;
     plataforma::mensagem("O valor de vazão deve ser maior que zero!");
     return false;
+}
+
+/// The comparisons and the lists of estimates, once the parameters that they show are gone.
+void esconderResultados() {
+    for (int n = 1; n <= 3; ++n) {
+        form_graf(n).esconder();
+        form_MIgraf(n).esconder();
+    }
+    form_ajuste1.esconder();
+    form_MIajuste1.esconder();
 }
 
 void habilitarResultados(ControlesDeAjuste& controles, Método método) {
@@ -59,10 +68,7 @@ void escolherQuantidade(Aspersor aspersor, int ensaios) {
     }
     c.Command7.habilitado = false;
     for (auto* rótulo : c.resultados()) rótulo->texto.clear();
-    for (int n = 1; n <= 3; ++n) {
-        form_graf(n).esconder();
-        form_MIgraf(n).esconder();
-    }
+    esconderResultados();
 }
 
 void abrirEnsaioDeMalha(Aspersor aspersor, int n) {
@@ -95,7 +101,7 @@ void compararMóvel(Aspersor aspersor, int n) {
     if (ensaioAceito(form_MiE(n), n)) preencherMIgraf(aspersor, n);
 }
 
-void descarregarAjuste(Aspersor aspersor) {
+void encerrarAjuste(Aspersor aspersor) {
     for (int n = 1; n <= 3; ++n)
         for (TelaBase* tela :
              std::initializer_list<TelaBase*>{&form_E(n), &form_MiE(n), &form_graf(n), &form_MIgraf(n)})
@@ -103,11 +109,16 @@ void descarregarAjuste(Aspersor aspersor) {
     form_ajuste1.descarregar();
     form_MIajuste1.descarregar();
     telaDeAjuste(aspersor).tela.descarregar();
+    voltarAoMenu();
 }
 
-void encerrarAjuste(Aspersor aspersor) {
-    descarregarAjuste(aspersor);
-    voltarAoMenu();
+void deixarAjuste(Aspersor aspersor) {
+    for (int n = 1; n <= 3; ++n) {
+        form_E(n).esconder();
+        form_MiE(n).esconder();
+    }
+    esconderResultados();
+    telaDeAjuste(aspersor).tela.descarregar();
 }
 
 } // namespace varenta

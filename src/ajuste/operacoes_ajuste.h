@@ -19,10 +19,10 @@ void ajustarPeloAutopropelido(Aspersor aspersor);
 void compararMalha(Aspersor aspersor, int n);
 void compararMóvel(Aspersor aspersor, int n);
 
-/// Unloads the screen of a fit with all screens that it has opened.
-void descarregarAjuste(Aspersor aspersor);
-/// The same, and returns to the main window.
+/// Unloads the screen of a fit with all screens that it has opened, and returns to the main window.
 void encerrarAjuste(Aspersor aspersor);
+/// Unloads the screen of a fit. The screens that it has opened hide; the tests keep what was typed.
+void deixarAjuste(Aspersor aspersor);
 
 /// Connects the handlers of the controls that both screens have in common.
 template <Aspersor a>

@@ -32,6 +32,19 @@ void escreverDireçãoDoVento(ControlesDeEnsaio& controles) {
     desenharVento(controles.Picture2, radianos(controles.HScroll1.valor));
 }
 
+void confirmarEntrada(ControlesDeEnsaio& controles) {
+    auto planilha = planilhaDoEnsaio(controles);
+    // The option that ends typing is set already when its handler runs; the line still shows.
+    planilha.digitação = controles.Text5.visivel;
+    sairDaCélula(planilha);
+    entrarNaCélula(planilha);
+}
+
+void escolherDigitação(ControlesDeEnsaio& controles) {
+    confirmarEntrada(controles);
+    mostrarEntrada(controles, true);
+}
+
 void dimensionarPlanilha(ControlesDeEnsaio& controles, int linhas, int colunas) {
     sairDaCélula(planilhaDoEnsaio(controles));
     controles.flex_A.dimensionar(linhas, colunas);
@@ -80,6 +93,7 @@ void abrirEnsaio(const TelaDeEnsaio& ensaio, Aspersor aspersor) {
 
 void abrirArquivoDeEnsaio(const TelaDeEnsaio& ensaio, std::initializer_list<CaixaTexto*> caixas,
                           const std::function<void(const std::string&)>& ler) {
+    confirmarEntrada(ensaio.controles);
     if (plataforma::perguntar("O arquivo deve estar na extensão: *.TXT separado por tabulações!")) {
         for (auto* caixa : caixas) definirTexto(*caixa, "");
         const auto caminho = plataforma::arquivoParaAbrir({.filtro = "Arquivos Texto (*.TXT)|*.TXT"});

@@ -26,6 +26,12 @@ Planilha planilhaDoEnsaio(ControlesDeEnsaio& controles);
 void escreverVelocidadeDoVento(ControlesDeEnsaio& controles);
 void escreverDireçãoDoVento(ControlesDeEnsaio& controles);
 
+/// What the entry line holds goes to its cell, as Enter would send it, before the cells are read.
+void confirmarEntrada(ControlesDeEnsaio& controles);
+
+/// Typing is chosen: the entry line shows, with the current cell's text.
+void escolherDigitação(ControlesDeEnsaio& controles);
+
 /// Gives the grid its size, once what the entry line holds has gone to its cell.
 void dimensionarPlanilha(ControlesDeEnsaio& controles, int linhas, int colunas);
 
@@ -80,7 +86,7 @@ void ligarEnsaio() {
     auto& c = tela().controles;
     c.HScroll2.aoMudar = c.HScroll2.aoRolar = [] { escreverVelocidadeDoVento(tela().controles); };
     c.HScroll1.aoMudar = c.HScroll1.aoRolar = [] { escreverDireçãoDoVento(tela().controles); };
-    c.Option2.aoClicar = [] { mostrarEntrada(tela().controles, true); };
+    c.Option2.aoClicar = [] { escolherDigitação(tela().controles); };
     c.flex_A.planilha = [] { return planilhaDoEnsaio(tela().controles); };
     c.Text5.aoTeclar = [](int tecla) { return teclar(planilhaDoEnsaio(tela().controles), tecla); };
     c.Command2.aoClicar = [] { limparEnsaio(tela()); };

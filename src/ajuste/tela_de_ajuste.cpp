@@ -3,10 +3,10 @@
 #include "ajuste/form_ajven.h"
 #include "ajuste/form_ajvenou.h"
 #include "aspersor/atualizar_aspersor.h"
+#include "aspersor/perfil_form.h"
+#include "comum/arquivos_de_dados.h"
 #include "comum/numeros.h"
 #include "simulacao/perfil_em.h"
-
-#include <string_view>
 
 namespace varenta {
 namespace {
@@ -28,21 +28,15 @@ FichaDoAspersor fichaDoCatálogo() {
     return ficha;
 }
 
-/// The text between a beginning and an end that it may have.
-std::string miolo(std::string_view texto, std::string_view começo, std::string_view fim) {
-    if (texto.starts_with(começo)) texto.remove_prefix(começo.size());
-    if (texto.ends_with(fim)) texto.remove_suffix(fim.size());
-    return std::string{texto};
-}
-
 FichaDoAspersor fichaDoOutro() {
     const auto& f = *form_AjvenOu.operator->();
+    const auto& digitado = *perfilForm.operator->();
     FichaDoAspersor ficha;
-    ficha.modelo = miolo(f.lblAspersor.texto, "Aspersor: ", "");
-    ficha.bocais = miolo(f.lblBocais.texto, "Bocais: ", " mm");
-    ficha.pressão = miolo(f.lblPressão.texto, "Pressão: ", " m.c.a.");
-    ficha.anguloJato = f.Label11.texto;
-    ficha.vazão = f.Label17.texto;
+    ficha.modelo = ouSubstituto(digitado.Text7.texto, "Não Especificado");
+    ficha.bocais = ouSubstituto(digitado.Text9.texto, "N/E");
+    ficha.pressão = ouSubstituto(digitado.Text2.texto, "N/E");
+    ficha.anguloJato = ouSubstituto(digitado.Text8.texto, "N/E");
+    ficha.vazão = ouSubstituto(digitado.Text1.texto, "N/E");
     ficha.rótuloDoModelo = "ASPERSOR: " + ficha.modelo;
     ficha.rótuloDosBocais = f.lblBocais.texto;
     ficha.rótuloDaPressão = f.lblPressão.texto;

@@ -20,6 +20,7 @@ TelaDeAjuste telaDeAjuste(Aspersor aspersor);
 /// The sprinkler as the screens and files of the tests name it.
 struct FichaDoAspersor {
     /// First lines of a test file: model, nozzles (mm), pressure (m.c.a.), jet angle (degrees), flow (m³/h).
+    /// Those of another sprinkler are the texts of `PerfilForm`, or what stands for one left empty.
     std::string modelo, bocais, pressão, anguloJato, vazão;
     /// The captions `Label20`, `Label19` and `Label18` of a test screen.
     std::string rótuloDoModelo, rótuloDosBocais, rótuloDaPressão;

@@ -57,7 +57,7 @@ Recusa recusaDoTempoOuDiâmetro(std::initializer_list<CaixaTexto*> caixas) {
                            "Valor numérico de tempo ou diâmetro do coletor inválido!");
 }
 
-/// Before saving: what a reader of the file would refuse as a number of collectors or lines.
+/// What a reader of the file would refuse as a number of collectors or lines.
 Recusa recusaDasContagens(std::initializer_list<const Lista*> listas) {
     for (const auto* lista : listas) {
         if (!éNumérico(lista->texto)) return RecusaDeEnsaio{valorInválido};
@@ -67,7 +67,7 @@ Recusa recusaDasContagens(std::initializer_list<const Lista*> listas) {
     return std::nullopt;
 }
 
-/// Before saving: the spacings of the grid. What the lists offer passes always.
+/// The spacings of the grid. What the lists offer passes always.
 Recusa recusaDosEspaçamentos(std::initializer_list<const Lista*> listas) {
     for (const auto* lista : listas)
         if (!éNumérico(lista->texto) || nãoÉPositivo(lista->texto)) return RecusaDeEnsaio{valorInválido};
@@ -106,6 +106,7 @@ Recusa recusaDoAjuste(RegistroFormE& f, int n) {
         if (const auto recusa = recusaSeNãoNumérico(f.Text6, "Valor de tempo inválido", n)) return recusa;
     if (f.Option3.marcada)
         if (const auto recusa = recusaSeNãoNumérico(f.Text7, diâmetroInválido, n)) return recusa;
+    if (const auto recusa = recusaDasEstimativas(f, n)) return recusa;
     const int N = inteiroDaLista(f.Combo2);
     return recusaDasCélulas(f.flex_A, N, N, aoAjustar(n));
 }
@@ -113,21 +114,36 @@ Recusa recusaDoAjuste(RegistroFormE& f, int n) {
 Recusa recusaDoAjuste(RegistroFormMiE& f, int n) {
     if (f.Option3.marcada)
         if (const auto recusa = recusaSeNãoNumérico(f.Text7, diâmetroInválido, n)) return recusa;
-    const auto recusa =
-        recusaDasCélulas(f.flex_A, 2 * inteiroDaLista(f.Combo3), inteiroDaLista(f.Combo1), aoAjustar(n));
-    if (recusa) return recusa;
-    if (const auto daVelocidade = recusaDaVelocidade(f.Text1, n)) return daVelocidade;
-    return recusaDoGiro(f.Combo6, n);
+    auto recusa = recusaDasContagens({&f.Combo1, &f.Combo3});
+    if (!recusa) recusa = recusaDosEspaçamentos({&f.Combo4});
+    if (!recusa)
+        recusa =
+            recusaDasCélulas(f.flex_A, 2 * inteiroDaLista(f.Combo3), inteiroDaLista(f.Combo1), aoAjustar(n));
+    if (!recusa) recusa = recusaDaVelocidade(f.Text1, n);
+    if (!recusa) recusa = recusaDoGiro(f.Combo6, n);
+    return recusa;
 }
 
-Recusa recusaDoSalvamento(RegistroFormE& f, int) {
+Recusa recusaDasEstimativas(RegistroFormE& f, int) {
+    const auto recusa = recusaDasContagens({&f.Combo2});
+    return recusa ? recusa : recusaDosEspaçamentos({&f.Combo1});
+}
+
+Recusa recusaDasEstimativas(RegistroFormMiE& f, int n) {
+    auto recusa = recusaDasContagens({&f.Combo3});
+    if (!recusa) recusa = recusaDosEspaçamentos({&f.Combo4});
+    if (!recusa) recusa = recusaDaVelocidade(f.Text1, n);
+    if (!recusa) recusa = recusaDoGiro(f.Combo6, n);
+    return recusa;
+}
+
+Recusa recusaDoSalvamento(RegistroFormE& f, int n) {
     Recusa recusa;
     if (f.Option4.marcada)
         recusa =
             recusaDasCaixas({&f.Text6}, "Insira um valor numérico de tempo!", "Valor numérico inválido!");
     if (f.Option3.marcada) recusa = recusaDoTempoOuDiâmetro({&f.Text6, &f.Text7});
-    if (!recusa) recusa = recusaDasContagens({&f.Combo2});
-    if (!recusa) recusa = recusaDosEspaçamentos({&f.Combo1});
+    if (!recusa) recusa = recusaDasEstimativas(f, n);
     if (recusa) return recusa;
     const int N = inteiroDaLista(f.Combo2);
     return recusaDasCélulas(f.flex_A, N, N, aoSalvar);

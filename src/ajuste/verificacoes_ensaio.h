@@ -21,6 +21,10 @@ struct RecusaDeEnsaio {
 std::optional<RecusaDeEnsaio> recusaDoAjuste(RegistroFormE& f, int n);
 std::optional<RecusaDeEnsaio> recusaDoAjuste(RegistroFormMiE& f, int n);
 
+/// Before the estimates alone, which need no readings.
+std::optional<RecusaDeEnsaio> recusaDasEstimativas(RegistroFormE& f, int n);
+std::optional<RecusaDeEnsaio> recusaDasEstimativas(RegistroFormMiE& f, int n);
+
 /// Before saving.
 std::optional<RecusaDeEnsaio> recusaDoSalvamento(RegistroFormE& f, int n);
 std::optional<RecusaDeEnsaio> recusaDoSalvamento(RegistroFormMiE& f, int n);

@@ -5,6 +5,7 @@
 #include "roteiro/interprete.h"
 
 #include <QApplication>
+#include <QElapsedTimer>
 #include <QFileDialog>
 #include <QGuiApplication>
 #include <QMessageBox>
@@ -205,6 +206,15 @@ void progresso(double valor, std::string_view texto) {
     if (auto* roteiro = Interprete::ativo()) roteiro->progresso(valor, texto);
     preparar();
     pintarSemOuvir();
+}
+
+void respirar() {
+    constexpr qint64 pausa = 50; // ms: painting takes a few of them
+    static QElapsedTimer desdeAÚltima;
+    if (desdeAÚltima.isValid() && desdeAÚltima.elapsed() < pausa) return;
+    preparar();
+    pintarSemOuvir();
+    desdeAÚltima.start();
 }
 
 void encerrar() {

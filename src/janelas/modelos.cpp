@@ -58,6 +58,9 @@ QVariant ModeloGrade::data(const QModelIndex& índice, int papel) const {
 
 QVariant ModeloGrade::headerData(int seção, Qt::Orientation orientação, int papel) const {
     const bool horizontal = orientação == Qt::Horizontal;
+    // A control that hides makes the layout ask for all headers known so far, before the table is told that
+    // its grid has become smaller.
+    if (seção + 1 >= (horizontal ? grade_->colunas : grade_->linhas)) return {};
     if (papel == Qt::DisplayRole)
         return qtexto(horizontal ? grade_->célula(0, seção + 1) : grade_->célula(seção + 1, 0));
     if (papel == Qt::TextAlignmentRole) return QVariant::fromValue(alinhamento(horizontal ? seção + 1 : 0));

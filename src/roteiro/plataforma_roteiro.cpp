@@ -34,6 +34,7 @@ std::optional<std::string> arquivoParaSalvar(const DialogoArquivo& diálogo) {
 
 void ajuda(std::optional<int> tópico) { ativo().ajuda(tópico); }
 void progresso(double valor, std::string_view texto) { ativo().progresso(valor, texto); }
+void respirar() {}
 
 void encerrar() { ativo().encerrar(); }
 

@@ -283,5 +283,25 @@ TEST(Busca, UmaMudançaPequenaSóPõeAContagemEm35EADescidaSegue) {
     EXPECT_EQ(b.barras.back(), 35);
 }
 
+TEST(Busca, DizEmQueEtapaEstá) {
+    // A flat objective: the simplex runs, the descent ends at once, Newton has nothing to divide by.
+    std::vector<int> etapas;
+    std::vector<double> barras;
+    const Objetivo objetivo = [](std::span<const Parametros> pontos) {
+        return std::vector<Avaliação>(pontos.size(), {4, 1});
+    };
+    const OuvinteDaBusca ouvinte{.desvio = [](double) {},
+                                 .barra = [&](double b) { barras.push_back(b); },
+                                 .etapa =
+                                     [&](int número) {
+                                         etapas.push_back(número);
+                                         etapas.push_back(barras.empty() ? 0
+                                                                         : static_cast<int>(barras.back()));
+                                     }};
+    EXPECT_NE(erroDe([&] { buscarParametros(objetivo, 1e-5, ouvinte); }), "");
+    // Each with where the bar stands.
+    EXPECT_EQ(etapas, (std::vector{1, 0, 2, 25, 3, 35}));
+}
+
 } // namespace
 } // namespace varenta

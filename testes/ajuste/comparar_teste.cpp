@@ -5,6 +5,10 @@
 #include "ajuste/form_migraf.h"
 #include "apoio/ajuste_feito_a_mao.h"
 #include "apoio/pasta_temporaria.h"
+#include "comum/escala_de_cores.h"
+
+#include <algorithm>
+#include <tuple>
 
 namespace varenta::teste {
 namespace {
@@ -134,6 +138,90 @@ TEST_F(ComparaçãoDoAjuste, AListaMostraOEstimadoESeSalva) {
     EXPECT_FALSE(form_ajuste1.carregada());
 }
 
+TEST_F(ComparaçãoDoAjuste, AListaNãoPrecisaDasLeituras) {
+    malhaDeQuatro(1, {"5", "7", "8", "6"});
+    comparar("Command8");
+    form_E(1).mostrar();
+    atos::clicar(alvo(form_E(1), "Command2"));
+    atos::clicar(alvo(form_graf(1), "Command3"));
+    EXPECT_EQ(caderno, Textos{});
+    EXPECT_EQ(form_ajuste1->flex_A.célula(2, 2), "10.000");
+    // Nor a time that the readings would need.
+    form_ajuste1.esconder();
+    auto& f = *form_E(1).operator->();
+    marcar(form_E(1), f.Option3);
+    atos::clicar(alvo(form_graf(1), "Command3"));
+    EXPECT_EQ(caderno, Textos{});
+    EXPECT_TRUE(form_ajuste1.visivel);
+}
+
+TEST_F(ComparaçãoDoAjuste, SemOsNúmerosQueAsEstimativasPedemNemListaNemComparação) {
+    malhaDeQuatro(1, {"5", "7", "8", "6"});
+    comparar("Command8");
+    form_graf(1)->Label17.texto = "como estava";
+    auto& f = *form_E(1).operator->();
+    for (const auto& [lista, texto, bom] : {std::tuple{&f.Combo2, "x", "2"},
+                                            {&f.Combo2, "0", "2"},
+                                            {&f.Combo2, "1e9", "2"},
+                                            {&f.Combo1, "-6", "6.0"}}) {
+        lista->texto = texto;
+        caderno.clear();
+        atos::clicar(alvo(form_graf(1), "Command3"));
+        comparar("Command8");
+        EXPECT_EQ(caderno, Textos(2, "mensagem: Valor inválido!")) << texto;
+        lista->texto = bom;
+    }
+    EXPECT_FALSE(form_ajuste1.visivel);
+    EXPECT_EQ(form_graf(1)->Label17.texto, "como estava");
+}
+
+TEST_F(ComparaçãoDoAjuste, ALinhaDeEntradaContaSemEnter) {
+    // 5 typed over the 1 that the first collector had.
+    malhaDeQuatro(1, {"1", "7", "8", "6"});
+    irParaCélula(planilhaDoEnsaio(*form_E(1).operator->()), 1, 1);
+    form_E(1)->Text5.texto = "5";
+    comparar("Command8");
+    EXPECT_EQ(form_graf(1)->Label17.texto, "Desvio Médio no Ensaio 1: 3.674 mm/h");
+    EXPECT_EQ(form_E(1)->flex_A.célula(1, 1), "5.000");
+}
+
+TEST_F(ComparaçãoDoAjuste, OsMapasSãoABilinearDosValoresNasSuasCores) {
+    // 4 x 4 collectors of the same water: 10 mm/h at the four in the middle, none at the others, which stand
+    // at 9 m and farther.
+    auto& f = *form_E(1).operator->();
+    f.Combo2.texto = "4";
+    Erro_plan(1);
+    definirValor(f.HScroll2, 0);
+    preencher(f, {"1", "2", "3", "4", "5", "9", "7", "8", "6", "4", "2", "0", "1", "3", "5", "7"});
+    // 67 mm/h on 36 m²: 2.412 m³/h, which leaves the readings as they are.
+    form_AjvenOu->Label17.texto = "2.412";
+    comparar("Command8");
+    const double leituras[4][4] = {{1, 2, 3, 4}, {5, 9, 7, 8}, {6, 4, 2, 0}, {1, 3, 5, 7}};
+    double estimadas[4][4] = {};
+    for (int i : {1, 2})
+        for (int j : {1, 2}) estimadas[i][j] = 10;
+    EXPECT_EQ(form_graf(1)->Label14.texto, "11.0 mm/h");
+    const auto conferir = [](const Mosaico& mapa, const double(&campo)[4][4]) {
+        ASSERT_EQ(mapa.cores.size(), 40'000u);
+        for (int l = 0; l < 200; ++l)
+            for (int c = 0; c < 200; ++c) {
+                // 199 steps over 3 cells.
+                const double y = l * 3 / 199.0, x = c * 3 / 199.0;
+                const int i = std::min(static_cast<int>(y), 2), j = std::min(static_cast<int>(x), 2);
+                const double b = y - i, a = x - j;
+                const double valor = campo[i][j] * (1 - a) * (1 - b) + campo[i][j + 1] * a * (1 - b) +
+                                     campo[i + 1][j] * (1 - a) * b + campo[i + 1][j + 1] * a * b;
+                // White at 0, blue at 11: red and green fall by 255 / 11 each mm/h.
+                const Cor cor = mapa.cores[static_cast<std::size_t>(l * 200 + c)];
+                ASSERT_NEAR(GetRed(cor), 255 - valor * 255 / 11, 0.5 + 1e-9) << l << ' ' << c;
+                ASSERT_EQ(GetGreen(cor), GetRed(cor));
+                ASSERT_EQ(GetBlue(cor), 255u);
+            }
+    };
+    conferir(mapaDe(form_graf(1)->Picture1), leituras);
+    conferir(mapaDe(form_graf(1)->Picture2), estimadas);
+}
+
 TEST_F(ComparaçãoDoAjuste, FecharEscondeEGuardaODesvioGeral) {
     malhaDeQuatro(1, {"5", "7", "8", "6"});
     form_graf(1)->Label16.texto = "Desvio Médio Geral: 1.234 mm/h";
@@ -161,7 +249,7 @@ TEST_F(ComparaçãoDoAjuste, OndeNemObservaçãoNemModeloTêmÁguaNãoSeConta) {
     f.Combo2.texto = "4";
     Erro_plan(1);
     definirValor(f.HScroll2, 0);
-    preencher(f.flex_A, {"1", "0", "0", "0", "0", "5", "7", "0", "0", "8", "6", "0", "0", "0", "0", "0"});
+    preencher(f, {"1", "0", "0", "0", "0", "5", "7", "0", "0", "8", "6", "0", "0", "0", "0", "0"});
     form_AjvenOu->Label17.texto = "0.972";
     comparar("Command8");
     EXPECT_EQ(form_graf(1)->Label17.texto, "Desvio Médio no Ensaio 1: 3.317 mm/h");
@@ -220,12 +308,55 @@ TEST_F(ComparaçãoDoAutopropelido, OGráficoTemUmaLinhaDoEstimadoEMarcasDoObser
     EXPECT_EQ(form_MIgraf(1).ponteiro, Ponteiro::padrão);
 }
 
+TEST_F(ComparaçãoDoAutopropelido, LâminasPequenasDemaisParaOEixoNãoDeixamUmaFiguraDeOutrosValores) {
+    móvelDeDois(1, {"1", "1.5"});
+    comparar("Command14");
+    ASSERT_TRUE(form_MIgraf(1).visivel);
+    // A tenth of the water: estimates of 0.04 mm, for which the axis has ticks of 0.0.
+    for (auto& rótulo : form_AjvenOu->lblIntensidade) rótulo.texto = "0.200";
+    form_AjvenOu->Label17.texto = "0.018";
+    comparar("Command14");
+    EXPECT_EQ(caderno, Textos{"erro: Divisão por zero"});
+    auto& f = *form_MIgraf(1).operator->();
+    // Factor 0.02: depths of 0.02 and 0.03, deviations of 0.02 and 0.01.
+    EXPECT_EQ(f.Label17.texto, "Desvio Médio no Ensaio 1: 0.016 mm");
+    EXPECT_EQ(f.Label13.texto, "Maior Precipitação: 0.200 mm/h");
+    EXPECT_EQ(f.Label20.texto, "Maior Lâmina Estimada: 0.040 mm");
+    EXPECT_EQ(f.Label15.texto, "Maior Lâmina Observada: 0.030 mm");
+    EXPECT_EQ(f.Label14.texto, "1.0 mm/h");
+    // The grid of the chart, and no curve; no map.
+    EXPECT_EQ(f.Picture1.traços.size(), 42u);
+    EXPECT_TRUE(f.Picture2.traços.empty());
+}
+
+TEST_F(ComparaçãoDoAutopropelido, AListaNãoPrecisaDasLeiturasMasDaVelocidadeEDoGiro) {
+    móvelDeDois(1, {"1", "1.5"});
+    comparar("Command14");
+    auto& f = *form_MiE(1).operator->();
+    form_MiE(1).mostrar();
+    atos::clicar(alvo(form_MiE(1), "Command2"));
+    atos::clicar(alvo(form_MIgraf(1), "Command3"));
+    EXPECT_EQ(caderno, Textos{});
+    EXPECT_EQ(form_MIajuste1->flex_A.célula(1, 1), "2.000");
+    form_MIajuste1.esconder();
+    f.Combo6.texto = "x";
+    atos::clicar(alvo(form_MIgraf(1), "Command3"));
+    f.Text1.texto = "0";
+    atos::clicar(alvo(form_MIgraf(1), "Command3"));
+    f.Combo3.texto = "0";
+    atos::clicar(alvo(form_MIgraf(1), "Command3"));
+    EXPECT_EQ(caderno, (Textos{"mensagem: Valor de ângulo de giro do aspersor inválido no Ensaio 1!",
+                               "mensagem: Ensaio 1: a velocidade do aspersor deve estar entre 0 - 200 m/h!",
+                               "mensagem: Valor inválido!"}));
+    EXPECT_FALSE(form_MIajuste1.visivel);
+}
+
 TEST_F(ComparaçãoDoAutopropelido, AMédiaDasLinhasValeComoLâminaDaPosição) {
     auto& f = *form_MiE(1).operator->();
     móvelDeDois(1, {});
     f.Combo1.texto = "2";
     MIErro_plan(1);
-    preencher(f.flex_A, {"0.5", "1.5", "1", "2"});
+    preencher(f, {"0.5", "1.5", "1", "2"});
     comparar("Command14");
     EXPECT_EQ(form_MIgraf(1)->Label17.texto, "Desvio Médio no Ensaio 1: 0.791 mm");
 }

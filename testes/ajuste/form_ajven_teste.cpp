@@ -114,6 +114,7 @@ TEST(FormAjVen, ComTrêsEnsaiosDeTamanhosDiferentesOsFatoresSãoTrês) {
         definirValor(f.HScroll2, 0);
         for (int l = 1; l < f.flex_A.linhas; ++l)
             for (int c = 1; c < f.flex_A.colunas; ++c) f.flex_A.escrever(l, c, "10");
+        entrarNaCélula(planilhaDoEnsaio(f));
     }
     atos::clicar(alvo(form_AjVen, "Command5"));
     // 16 and 36 collectors catch 4 and 9 times as much.

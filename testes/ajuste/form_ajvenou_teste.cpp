@@ -1,6 +1,7 @@
 #include "ajuste/form_ajvenou.h"
 
 #include "ajuste/form_ajcar.h"
+#include "ajuste/form_ajuste.h"
 #include "ajuste/form_graf.h"
 #include "ajuste/form_migraf.h"
 #include "ajuste/tela_de_ajuste.h"
@@ -85,8 +86,9 @@ TEST(FormAjvenOu, UmEnsaioSeSalvaComOsDadosDoAspersor) {
     const PastaTemporaria pasta;
     arquivos = {pasta.caminho("e.TXT")};
     atos::clicar(alvo(form_E1, "Command6"));
-    EXPECT_EQ(pasta.bytes("e.TXT"),
-              "Meu\r\n12\r\n40\r\n24\r\n0.936\r\n2\r\n6.0\r\n0.0\r\n45\r\n1\r\n1\t2\r\n3\t4.5\r\n");
+    EXPECT_EQ(
+        pasta.bytes("e.TXT"),
+        "Meu\r\n12\r\n40\r\n24\r\n0.936\r\n2\r\n6.0\r\n0.0\r\n45\r\n1\r\n1.000\t2.000\r\n3.000\t4.500\r\n");
 }
 
 TEST(FormAjvenOu, OEnsaioMóvelNãoTemFimDeLinhaDepoisDaÚltima) {
@@ -97,22 +99,22 @@ TEST(FormAjvenOu, OEnsaioMóvelNãoTemFimDeLinhaDepoisDaÚltima) {
     const PastaTemporaria pasta;
     arquivos = {pasta.caminho("m.TXT")};
     atos::clicar(alvo(form_MiE2, "Command6"));
-    EXPECT_EQ(
-        pasta.bytes("m.TXT"),
-        "Meu\r\n12\r\n40\r\n24\r\n0.936\r\n60\r\n360\r\n1\r\n6.0\r\n1\r\n6.0\r\n0.0\r\n45\r\n1\r\n1\r\n1.5");
+    EXPECT_EQ(pasta.bytes("m.TXT"), "Meu\r\n12\r\n40\r\n24\r\n0.936\r\n60\r\n360\r\n1\r\n6.0\r\n1\r\n6."
+                                    "0\r\n0.0\r\n45\r\n1\r\n1.000\r\n1.500");
 }
 
-TEST(FormAjvenOu, ONomeNãoEspecificadoFica) {
-    recomeçar();
-    auto textos = aspersorDeSeisMetros();
-    textos.aspersor = "Aspersor: Não especificado";
-    textos.bocais = "Bocais: N/E";
-    textos.pressão = "Pressão: N/E";
-    prepararFormAjvenOu(textos, Método::malha);
+TEST(FormAjvenOu, OQueNãoSeDigitouDoAspersorTemSubstitutoNoArquivo) {
+    abrirFormAjvenOu(Método::malha);
+    auto& digitado = *perfilForm.operator->();
+    for (auto* caixa : {&digitado.Text7, &digitado.Text9, &digitado.Text2, &digitado.Text8})
+        caixa->texto.clear();
+    form_AjvenOu->lblBocais.texto = "Bocais: N/E";
     const auto ficha = fichaDoAspersor(Aspersor::outro);
-    EXPECT_EQ(ficha.modelo, "Não especificado");
+    EXPECT_EQ(ficha.modelo, "Não Especificado");
     EXPECT_EQ(ficha.bocais, "N/E");
     EXPECT_EQ(ficha.pressão, "N/E");
+    EXPECT_EQ(ficha.anguloJato, "N/E");
+    EXPECT_EQ(ficha.vazão, "0.936");
     EXPECT_EQ(ficha.rótuloDosBocais, "Bocais: N/E");
 }
 
@@ -161,6 +163,31 @@ TEST(FormAjvenOu, MudarONúmeroDeEnsaiosDesfazOResultadoEEscondeAsComparações)
     EXPECT_FALSE(form_graf1.visivel);
     EXPECT_TRUE(f.Command6.habilitado);
     EXPECT_TRUE(f.Command13.habilitado);
+}
+
+TEST(FormAjvenOu, MudarONúmeroDeEnsaiosEscondeTambémAsListas) {
+    abrirFormAjvenOu(Método::malha);
+    form_ajuste1.mostrar();
+    form_MIajuste1.mostrar();
+    atos::clicar(alvo(form_AjvenOu, "Option6"));
+    EXPECT_FALSE(form_ajuste1.visivel);
+    EXPECT_FALSE(form_MIajuste1.visivel);
+}
+
+TEST(FormAjvenOu, VoltarDeixaOsEnsaiosCarregadosEOcultos) {
+    abrirFormAjvenOu(Método::malha);
+    malhaDeQuatro(1, {"5", "7", "8", "6"});
+    atos::clicar(alvo(form_AjvenOu, "Command4"));
+    form_AjvenOu->Command8.habilitado = true;
+    atos::clicar(alvo(form_AjvenOu, "Command8"));
+    atos::clicar(alvo(form_AjvenOu, "Command18"));
+    EXPECT_FALSE(form_AjvenOu.carregada());
+    EXPECT_TRUE(perfilForm.visivel);
+    EXPECT_FALSE(form3.visivel);
+    EXPECT_TRUE(form_E1.carregada());
+    EXPECT_FALSE(form_E1.visivel);
+    EXPECT_FALSE(form_graf1.visivel);
+    EXPECT_EQ(form_E1->flex_A.célula(1, 2), "7.000");
 }
 
 TEST(FormAjvenOu, FecharFechaTambémAsTelasQueAbriu) {

@@ -4,8 +4,10 @@
 #include "ajuste/form_ajvenou.h"
 #include "ajuste/form_e.h"
 #include "ajuste/form_mie.h"
+#include "ajuste/operacoes_ensaio.h"
 #include "apoio/atalhos.h"
 #include "apoio/plataforma_teste.h"
+#include "aspersor/perfil_form.h"
 #include "comum/operacoes.h"
 
 #include <gtest/gtest.h>
@@ -28,17 +30,24 @@ inline TextosDoAspersor aspersorDeSeisMetros() {
 
 inline void abrirFormAjvenOu(Método método) {
     recomeçar();
+    auto& digitado = *perfilForm.operator->();
+    digitado.Text7.texto = "Meu";
+    digitado.Text9.texto = "12";
+    digitado.Text2.texto = "40";
+    digitado.Text8.texto = "24";
+    digitado.Text1.texto = "0.936";
     prepararFormAjvenOu(aspersorDeSeisMetros(), método);
     for (auto& rótulo : form_AjvenOu->lblIntensidade) rótulo.texto = "10.000";
     form_AjvenOu.mostrar();
 }
 
-/// Fills the data cells row by row.
-inline void preencher(Grade& grade, std::initializer_list<const char*> textos) {
-    int l = 1, c = 1;
+/// Types the readings of a test row by row.
+inline void preencher(ControlesDeEnsaio& ensaio, std::initializer_list<const char*> textos) {
+    const auto planilha = planilhaDoEnsaio(ensaio);
+    irParaCélula(planilha, 1, 1);
     for (const char* texto : textos) {
-        grade.escrever(l, c, texto);
-        if (++c == grade.colunas) c = 1, ++l;
+        ensaio.Text5.texto = texto;
+        teclar(planilha, teclaEnter);
     }
 }
 
@@ -48,7 +57,7 @@ inline void malhaDeQuatro(int n, std::initializer_list<const char*> leituras) {
     f.Combo2.texto = std::string("2");
     Erro_plan(n);
     definirValor(f.HScroll2, 0);
-    preencher(f.flex_A, leituras);
+    preencher(f, leituras);
 }
 
 /// The travelling test `n`: one line of one collector on each side every 6 m, at 60 m/h, all around, without
@@ -62,7 +71,7 @@ inline void móvelDeDois(int n, std::initializer_list<const char*> leituras) {
     f.Text1.texto = std::string("60");
     MIErro_plan(n);
     definirValor(f.HScroll2, 0);
-    preencher(f.flex_A, leituras);
+    preencher(f, leituras);
 }
 
 } // namespace varenta::teste

@@ -12,6 +12,7 @@ std::vector<std::string> caderno;
 std::vector<bool> ampulhetas;
 std::string falhaDaAjuda;
 std::vector<PassoDeProgresso> progressos;
+int respiros = 0;
 std::deque<bool> respostas;
 std::deque<std::optional<std::string>> arquivos;
 
@@ -21,6 +22,7 @@ void recomeçar() {
     ampulhetas.clear();
     falhaDaAjuda.clear();
     progressos.clear();
+    respiros = 0;
     respostas.clear();
     arquivos.clear();
 }
@@ -76,6 +78,8 @@ void ajuda(std::optional<int> tópico) {
 }
 
 void progresso(double valor, std::string_view texto) { progressos.push_back({valor, std::string{texto}}); }
+
+void respirar() { ++respiros; }
 
 void encerrar() { caderno.push_back("encerrar"); }
 

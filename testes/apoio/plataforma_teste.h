@@ -23,6 +23,8 @@ struct PassoDeProgresso {
     bool operator==(const PassoDeProgresso&) const = default;
 };
 extern std::vector<PassoDeProgresso> progressos;
+/// How often a long run has let the windows paint themselves in between.
+extern int respiros;
 extern std::deque<bool> respostas;
 /// Paths for the next file dialogs; nothing is a cancelled dialog.
 extern std::deque<std::optional<std::string>> arquivos;

@@ -17,6 +17,7 @@ from pathlib import Path
 
 import ajuste as a
 import calculo
+import medido
 from ajuste import EnsaioMalha, EnsaioMovel
 from calculo import formatar, ler
 from gerar import AUXILIARES, PRESSAO_MINIMA, Caso, Sorteio
@@ -448,18 +449,22 @@ class OutroAspersor:
 
     def escolher(self, caso, metodo):
         malha = metodo is MALHA
-        caso.faz("clicar", "Form3.Ou_aspC" if malha else "Form3.OuAsp_Auto")
+        self.digitar(caso, "Form3.Ou_aspC" if malha else "Form3.OuAsp_Auto")
+        caso.faz("clicar", f"PerfilForm.{'Command6' if malha else 'Command7'}")
+        f = self.fonte
+        for controle, valor in (("lblRaioAlcance", f.alcance), ("Label17", f.vazao), ("Label11", f.anguloJato)):
+            caso.mostra(f"Form_AjvenOu.{controle}", valor)
+        caso.mostra("Form_AjvenOu.lblIntensidade", f.perfil, base=1)
+
+    def digitar(self, caso, item):
+        """PerfilForm filled by hand."""
+        caso.faz("clicar", item)
         for controle, texto in (("Text7", self.nome), ("Text9", self.bocais), ("Text2", self.pressao),
                                 ("Text8", self.angulo), ("Text1", self.vazao), ("Text5", str(len(self.leituras)))):
             caso.faz("digitar", f"PerfilForm.{controle}", texto)
         for i, linha in enumerate(self.leituras, 1):
             for j, texto in enumerate(linha, 1):
                 caso.faz("celula", "PerfilForm.flexGrid", i, j, texto)
-        caso.faz("clicar", f"PerfilForm.{'Command6' if malha else 'Command7'}")
-        f = self.fonte
-        for controle, valor in (("lblRaioAlcance", f.alcance), ("Label17", f.vazao), ("Label11", f.anguloJato)):
-            caso.mostra(f"Form_AjvenOu.{controle}", valor)
-        caso.mostra("Form_AjvenOu.lblIntensidade", f.perfil, base=1)
 
 
 OUTROS = (
@@ -487,6 +492,45 @@ def outrosAspersores(s, contas, pasta):
     contas.malha += 3
     contas.movel += 2
     return caso
+
+
+def outrosSimulados(pasta):
+    """Sprinklers out of the catalogue fitted, and simulated with the captions typed by hand."""
+    caso = CasoDeAjuste("ajuste-outro-simulado", "A fit of a sprinkler out of the catalogue, and a simulation with it", pasta)
+    s, contas = SorteioComRuido(SEMENTE + 1), Contas()
+    for metodo, sortear, dados in ((MALHA, sortearMalha, OUTROS[0]), (MOVEL, sortearMovel, OUTROS[1])):
+        aspersor = OutroAspersor(*dados)
+        ensaios, r = sortearAjuste(s, contas, aspersor.fonte, sortear, 1)
+        cena = Cena(caso, aspersor, metodo, aspersor.nome)
+        cena.carregar(1, ensaios[0])
+        cena.ajustar(ensaios, r)
+        cena.fechar()
+        simularOutro(caso, aspersor, r.legendas, ensaios[0])
+    return caso
+
+
+def simularOutro(caso, aspersor, legendas, ensaio):
+    aspersor.digitar(caso, "Form3.Ou_aspB")
+    radial = medido.EnsaioRadial(medido.MM_H, aspersor.nome, aspersor.bocais, aspersor.pressao, aspersor.angulo, aspersor.vazao,
+                                 r=[medido.celula(r, "0.00") for r, _ in aspersor.leituras],
+                                 leituras=[medido.celula(i, "0.000") for _, i in aspersor.leituras])
+    perfil = medido.avancar(radial, medido.Conversa())
+    caso.faz("clicar", "PerfilForm.Command8")
+    form7 = medido.Form7Ou(perfil)
+    caso.faz("clicar", "Perfil.Command6")
+    caso.saida += form7.calcular()
+    for k, texto in enumerate(legendas, 2):
+        caso.faz("digitar", f"Form7.Text{k}", texto)
+    form7.parametros = legendas
+    for barra, valor in (("HScroll2", round(ler(ensaio.vento) * 10)), ("HScroll1", int(ensaio.direcao))):
+        caso.faz("rolar", f"Form7.{barra}", valor)
+        form7.rolar(barra, valor)
+    caso.faz("clicar", "Form7.Command8")
+    caso.saida += form7.calcular()
+    for controle in ("Label20", "Label19", "Label18"):
+        caso.mostra(f"Form7.{controle}", form7.legendas[controle])
+    caso.mostraGrade("Form7.flexA", ("No", "Distância (m)", "Lâmina (mm)"), form7.flexA)
+    caso.faz("clicar", "Form7.cmdSair")
 
 
 def saltaPara35(r):
@@ -977,6 +1021,7 @@ def main():
         escrever(faz(s, contas, pasta))
     (pasta / "ajuste-salvar.gravados").write_bytes(
         "".join(f"{DADOS}/saida-{k}.txt\t{DADOS}/parametros-{k}.txt\n" for k in (1, 2, 3)).encode())
+    escrever(outrosSimulados(pasta))
     escrever(poucaAgua(s, contas, pasta))
     escrever(recusas(pasta))
     escrever(arquivosRecusados(pasta))

@@ -3,10 +3,13 @@
 #include "ajuste/form_ajcar.h"
 #include "ajuste/form_ajuste.h"
 #include "ajuste/form_ajven.h"
+#include "ajuste/form_ajvenou.h"
 #include "ajuste/form_e.h"
 #include "ajuste/form_graf.h"
 #include "ajuste/form_mie.h"
 #include "ajuste/form_migraf.h"
+#include "aspersor/perfil.h"
+#include "aspersor/perfil_form.h"
 #include "janelas/widget_desenho.h"
 #include "janelas/widget_tabela.h"
 
@@ -28,6 +31,7 @@ namespace varenta::teste {
 namespace {
 
 constexpr std::array resultados{"Label18", "Label19", "Label21", "Label23", "Label25", "Label27"};
+constexpr std::array caixas7{"Text2", "Text3", "Text4", "Text5", "Text6", "Text7"};
 
 QString ler(const QString& caminho) {
     std::ifstream arquivo{caminho.toStdString(), std::ios::binary};
@@ -54,6 +58,109 @@ class JanelasDoAjuste : public ComJanelas {
         clicarMenu("TX20c");
         abrirEnsaio("Command4", form_E1, "ensaio_malha_1.txt");
         caixas.clear();
+    }
+
+    /// The captions of a fit's parameters, all of them written.
+    QStringList ajustados(const TelaBase& tela) const {
+        QStringList textos;
+        for (const auto* nome : resultados) textos << rótulo(tela, nome);
+        EXPECT_FALSE(textos.contains(""));
+        return textos;
+    }
+
+    /// The boxes of `Form7` that take them.
+    QStringList deForm7() const {
+        QStringList textos;
+        for (const auto* nome : caixas7) textos << widget<QLineEdit>(form7, nome).text();
+        return textos;
+    }
+
+    /// The depths that `Form7` tells under a wind of 3 m/s.
+    QStringList simular(const char* botão) const {
+        auto& vento = widget(form7, "HScroll2");
+        QTest::keyClick(&vento, Qt::Key_Home);
+        for (int k = 0; k < 30; ++k) QTest::keyClick(&vento, Qt::Key_Right);
+        clicar(form7, botão);
+        EXPECT_EQ(rótulo(form7, "Label17"), "3.0");
+        const auto& tabela = *widget<WidgetTabela>(form7, "flexA").model();
+        QStringList lâminas;
+        for (int l = 0; l < tabela.rowCount(); ++l)
+            lâminas << tabela.data(tabela.index(l, 1), Qt::DisplayRole).toString();
+        return lâminas;
+    }
+
+    /// Saves the parameters of `form_AjVen`, and reads and simulates them in `Form7`.
+    void salvarESimular() {
+        const auto arquivo = pasta.filePath("parametros.TXT");
+        arquivos = {arquivo};
+        clicar(form_AjVen, "Command7");
+        const auto parâmetros = ajustados(form_AjVen);
+        clicar(form_AjVen, "Command1");
+        EXPECT_TRUE(janela(form3).isVisible());
+
+        clicarMenu("TX20B");
+        clicar(form1, "Command3");
+        const auto antes = simular("Command2");
+        respostas = {true};
+        arquivos = {arquivo};
+        clicar(form7, "Command1");
+        EXPECT_EQ(deForm7(), parâmetros);
+        conferirLâminas(antes, simular("Command2"));
+    }
+
+    /// Other parameters give other depths; there is water in the middle of the lane.
+    static void conferirLâminas(const QStringList& antes, const QStringList& depois) {
+        ASSERT_GT(depois.size(), 10);
+        EXPECT_NE(depois, antes);
+        EXPECT_GT(depois[depois.size() / 2].toDouble(), 1);
+    }
+
+    /// A sprinkler out of the catalogue fitted to one test, and simulated with the parameters typed.
+    void ajustarESimularOutro(const char* item, const char* avançar, const char* botãoDoEnsaio,
+                              const TelaBase& ensaio, const char* arquivoDoEnsaio, const char* ajustar,
+                              const char* comparar, const TelaBase& comparação, const TelaBase& lista) {
+        clicarMenu(item);
+        respostas = {true};
+        arquivos = {exemplo("ensaio_radial_mmh.txt")};
+        clicar(perfilForm, "Option2");
+        clicar(perfilForm, avançar);
+        clicar(form_AjvenOu, botãoDoEnsaio);
+        respostas = {true};
+        arquivos = {exemplo(arquivoDoEnsaio)};
+        clicar(ensaio, "Option5");
+        respostas = {true};
+        clicar(ensaio, "Command4");
+        EXPECT_FALSE(janela(ensaio).isVisible());
+        caixas.clear();
+        clicar(form_AjvenOu, ajustar);
+        ASSERT_EQ(caixas.size(), 2u);
+        EXPECT_TRUE(caixas[1].startsWith("O melhor ajuste apresentou")) << caixas[1].toStdString();
+
+        clicar(form_AjvenOu, comparar);
+        EXPECT_TRUE(widget<QPushButton>(comparação, "Command3").isVisible());
+        EXPECT_FALSE(widget<QPushButton>(comparação, "Command2").isVisible());
+        clicar(comparação, "Command3");
+        EXPECT_TRUE(janela(lista).isVisible());
+        clicar(lista, "Command2");
+        clicar(comparação, "Command4");
+        caixas.clear();
+        clicar(form_AjvenOu, "Command7");
+        EXPECT_TRUE(caixas.empty()) << "nothing is saved for such a sprinkler";
+        const auto parâmetros = ajustados(form_AjvenOu);
+        clicar(form_AjvenOu, "Command1");
+        EXPECT_TRUE(janela(form3).isVisible());
+
+        clicarMenu("Ou_aspB");
+        respostas = {true};
+        arquivos = {exemplo("ensaio_radial_mmh.txt")};
+        clicar(perfilForm, "Option2");
+        clicar(perfilForm, "Command8");
+        clicar(perfil, "Command6");
+        const auto antes = simular("Command8");
+        for (std::size_t k = 0; k < caixas7.size(); ++k)
+            apagarEDigitar(form7, caixas7[k], parâmetros[static_cast<qsizetype>(k)]);
+        EXPECT_EQ(deForm7(), parâmetros);
+        conferirLâminas(antes, simular("Command8"));
     }
 
     /// Runs `ato` again and again while a fit paints.
@@ -101,27 +208,20 @@ TEST_F(JanelasDoAjuste, pela_malha_vão_dos_ensaios_à_simulação) {
     clicar(form_graf1, "Command1");
     EXPECT_FALSE(janela(form_graf1).isVisible());
 
-    const auto parâmetros = pasta.filePath("parametros.TXT");
-    arquivos = {parâmetros};
-    clicar(form_AjVen, "Command7");
-    QStringList ajustados;
-    for (const auto* nome : resultados) ajustados << rótulo(form_AjVen, nome);
-    clicar(form_AjVen, "Command1");
-    EXPECT_TRUE(janela(form3).isVisible());
-
-    clicarMenu("TX20B");
-    clicar(form1, "Command3");
-    respostas = {true};
-    arquivos = {parâmetros};
-    clicar(form7, "Command1");
-    QStringList lidos;
-    for (const auto* nome : {"Text2", "Text3", "Text4", "Text5", "Text6", "Text7"})
-        lidos << widget<QLineEdit>(form7, nome).text();
-    EXPECT_EQ(lidos, ajustados);
-    EXPECT_FALSE(ajustados.contains(""));
+    salvarESimular();
 }
 
-TEST_F(JanelasDoAjuste, pelo_autopropelido_vão_dos_ensaios_à_lista_de_estimativas) {
+TEST_F(JanelasDoAjuste, pela_malha_outro_aspersor_vai_do_ensaio_radial_à_simulação) {
+    ajustarESimularOutro("Ou_aspC", "Command6", "Command4", form_E1, "ensaio_malha_1.txt", "Command5",
+                         "Command8", form_graf1, form_ajuste1);
+}
+
+TEST_F(JanelasDoAjuste, pelo_autopropelido_outro_aspersor_vai_do_ensaio_radial_à_simulação) {
+    ajustarESimularOutro("OuAsp_Auto", "Command7", "Command11", form_MiE1, "ensaio_movel_2.txt", "Command17",
+                         "Command14", form_MIgraf1, form_MIajuste1);
+}
+
+TEST_F(JanelasDoAjuste, pelo_autopropelido_vão_dos_ensaios_à_simulação) {
     clicarMenu("TX20d");
     clicar(form_AjVen, "Option6");
     abrirEnsaio("Command11", form_MiE1, "ensaio_movel_1.txt");
@@ -146,6 +246,8 @@ TEST_F(JanelasDoAjuste, pelo_autopropelido_vão_dos_ensaios_à_lista_de_estimati
                   ->headerData(0, Qt::Horizontal, Qt::DisplayRole)
                   .toString(),
               "Lâmina (mm)");
+    clicar(form_MIajuste1, "Command2");
+    salvarESimular();
 }
 
 TEST_F(JanelasDoAjuste, as_leituras_digitadas_vão_célula_a_célula) {
@@ -179,17 +281,25 @@ TEST_F(JanelasDoAjuste, enquanto_ajustam_a_barra_anda_e_a_janela_se_pinta) {
     abrirMalha();
     std::vector<int> valores;
     std::vector<QString> textos;
-    std::optional<ContagemDePinturas> pinturas;
-    int vistas = 0;
+    std::optional<ContagemDePinturas> pinturas, pinturasDoGráfico;
+    int vistas = 0, vistasDoGráfico = 0;
+    QStringList etapas;
     duranteOAjuste(
         [&] {
             const auto& barra = widget<QProgressBar>(form_AjCar, "ProgressBar1");
-            if (!pinturas) pinturas.emplace(widget<QProgressBar>(form_AjCar, "ProgressBar1"));
+            if (!pinturas) {
+                pinturas.emplace(widget<QProgressBar>(form_AjCar, "ProgressBar1"));
+                pinturasDoGráfico.emplace(widget<WidgetDesenho>(form_AjCar, "Picture1"));
+            }
+            const auto etapa = rótulo(form_AjCar, "lblEtapa").section('.', 0, 0);
+            if (!etapas.contains(etapa)) etapas << etapa;
+            EXPECT_TRUE(widget<QLabel>(form_AjCar, "lblEtapa").isVisible());
             if (valores.empty() || valores.back() != barra.value()) valores.push_back(barra.value());
             const auto texto = rótulo(form_AjCar, "Label1");
             if (textos.empty() || textos.back() != texto) textos.push_back(texto);
             EXPECT_TRUE(janela(form_AjCar).isVisible());
             vistas = pinturas->quantas;
+            vistasDoGráfico = pinturasDoGráfico->quantas;
         },
         [&] { clicar(form_AjVen, "Command5"); });
     // A hundred quarters of the simplex, each a step of the widget.
@@ -200,6 +310,10 @@ TEST_F(JanelasDoAjuste, enquanto_ajustam_a_barra_anda_e_a_janela_se_pinta) {
     EXPECT_GT(textos.size(), 3u);
     EXPECT_TRUE(textos.back().startsWith("Desvio Médio: ")) << textos.back().toStdString();
     EXPECT_GT(vistas, 20);
+    EXPECT_GT(vistasDoGráfico, 20);
+    etapas.removeAll("Preparação dos ensaios");
+    EXPECT_EQ(etapas, (QStringList{"Etapa 1 de 3: simplex", "Etapa 2 de 3: descida pelo gradiente",
+                                   "Etapa 3 de 3: método de Newton"}));
 }
 
 TEST_F(JanelasDoAjuste, enquanto_ajustam_nada_mais_começa_nem_espera_sua_vez) {
