@@ -15,9 +15,13 @@ std::optional<std::string> pedirArquivoDeDados() {
 void salvarArquivoDeDados(std::string_view texto, std::string_view falha, std::string_view fimDaFalha) {
     const auto caminho = plataforma::arquivoParaSalvar(
         {.filtro = "Text files|*.TXT|All files|*.*", .filtroInicial = 2, .extensãoPadrão = "TXT"});
-    if (!caminho || caminho->empty()) return;
+    if (caminho && !caminho->empty()) gravarArquivoDeDados(*caminho, texto, falha, fimDaFalha);
+}
+
+void gravarArquivoDeDados(const std::string& caminho, std::string_view texto, std::string_view falha,
+                          std::string_view fimDaFalha) {
     try {
-        gravarTexto(*caminho, texto);
+        gravarTexto(caminho, texto);
     } catch (const ErroExecucao& e) {
         plataforma::mensagem(std::string{falha}.append(e.what()).append(fimDaFalha));
     }

@@ -22,6 +22,10 @@ std::optional<std::string> pedirArquivoDeDados();
 /// writes nothing.
 void salvarArquivoDeDados(std::string_view texto, std::string_view falha, std::string_view fimDaFalha = "");
 
+/// Writes the text into the file of that name. A failure is told as `falha`, the reason and `fimDaFalha`.
+void gravarArquivoDeDados(const std::string& caminho, std::string_view texto, std::string_view falha,
+                          std::string_view fimDaFalha);
+
 /// Adds a line of a file, with its end.
 void acrescentarLinha(std::string& texto, std::string_view linha);
 

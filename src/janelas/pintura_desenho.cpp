@@ -22,6 +22,7 @@ constexpr QColor malhaFina{0xe4, 0xe7, 0xea};
 constexpr QColor malhaGrossa{0xb4, 0xba, 0xc0};
 constexpr QColor verdeNoPapel{0x00, 0x96, 0x00};
 constexpr double malhaNoPapel = 0.7;
+constexpr double sobraDasCaixas = 0.3;
 constexpr int traçoDaEscala = 4;
 constexpr int folga = 4;
 constexpr int amostraDaLegenda = 26;
@@ -137,7 +138,10 @@ class PintorDeTraços {
         const QRectF lugar{transformação_.map(QPointF{caixa.x1, caixa.y1}),
                            transformação_.map(QPointF{caixa.x2, caixa.y2})};
         pintor_.setRenderHint(QPainter::Antialiasing, false);
-        pintor_.fillRect(naMoldura(lugar.normalized()), corDe(caixa.cor));
+        // On paper two boxes side by side overlap a little, or else a gap would shine through between them.
+        const double sobra = noPapel() ? sobraDasCaixas : 0;
+        pintor_.fillRect(naMoldura(lugar.normalized().adjusted(-sobra, -sobra, sobra, sobra)),
+                         corDe(caixa.cor));
         pintor_.setRenderHint(QPainter::Antialiasing, true);
     }
 

@@ -16,15 +16,15 @@ class QPainter;
 /// What a drawing shows: the strokes of the core and what its layout puts around them. `WidgetDesenho` tells
 /// what each means.
 struct ConteudoDoDesenho {
-    QRectF area, eixos;
+    QRectF area = {}, eixos = {};
     bool proporcional = false;
-    QString figura;
+    QString figura = {};
     /// The tick captions of both axes, from the origin on.
-    QStringList escalaX, escalaY;
-    QString tituloX, tituloY;
-    QStringList legenda;
+    QStringList escalaX = {}, escalaY = {};
+    QString tituloX = {}, tituloY = {};
+    QStringList legenda = {};
     /// Belong to the drawing.
-    std::span<const varenta::Traço> traços;
+    std::span<const varenta::Traço> traços = {};
 
     bool éGráfico() const { return !eixos.isEmpty(); }
     /// The size that it would have by itself, in canvas units.

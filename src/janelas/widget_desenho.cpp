@@ -2,6 +2,8 @@
 
 #include "janelas/pintura_desenho.h"
 
+#include <QContextMenuEvent>
+#include <QCoreApplication>
 #include <QLabel>
 #include <QMouseEvent>
 #include <QPainter>
@@ -110,6 +112,15 @@ void WidgetDesenho::mouseMoveEvent(QMouseEvent* evento) {
 }
 
 void WidgetDesenho::leaveEvent(QEvent*) { emit mouseSaiu(); }
+
+/// The menu key, where the system makes no event of its own of it.
+void WidgetDesenho::keyPressEvent(QKeyEvent* evento) {
+    const bool f10 = evento->key() == Qt::Key_F10 && evento->modifiers() == Qt::ShiftModifier;
+    if (!f10 && evento->key() != Qt::Key_Menu) return QWidget::keyPressEvent(evento);
+    const QPoint meio = rect().center();
+    QContextMenuEvent menu{QContextMenuEvent::Keyboard, meio, mapToGlobal(meio)};
+    QCoreApplication::sendEvent(this, &menu);
+}
 
 void WidgetDesenho::paintEvent(QPaintEvent*) {
     const double densidade = devicePixelRatioF();

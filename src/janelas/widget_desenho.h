@@ -80,6 +80,7 @@ class WidgetDesenho : public QWidget {
     void resizeEvent(QResizeEvent* evento) override;
     void mouseMoveEvent(QMouseEvent* evento) override;
     void leaveEvent(QEvent* evento) override;
+    void keyPressEvent(QKeyEvent* evento) override;
 
   private:
     bool éGráfico() const { return !eixos_.isEmpty(); }
