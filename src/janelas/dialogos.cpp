@@ -122,6 +122,16 @@ Dialogos dialogosDoQt() {
                 completarPeloFiltro(diálogo);
                 return escolherArquivo(diálogo);
             },
+        .figuraParaSalvar = [](const QString& filtros, int filtroInicial) -> std::optional<ArquivoEscolhido> {
+            QFileDialog diálogo{QApplication::activeWindow(), QStringLiteral("Salvar Figura"), {}, filtros};
+            diálogo.setAcceptMode(QFileDialog::AcceptSave);
+            diálogo.setOption(QFileDialog::DontConfirmOverwrite);
+            diálogo.selectNameFilter(diálogo.nameFilters().value(filtroInicial - 1));
+            const auto caminho = escolherArquivo(diálogo);
+            if (!caminho) return std::nullopt;
+            const auto filtro = diálogo.nameFilters().indexOf(diálogo.selectedNameFilter());
+            return ArquivoEscolhido{*caminho, static_cast<int>(filtro) + 1};
+        },
         .ajuda = mostrarJanelaDaAjuda,
     };
 }

@@ -9,6 +9,12 @@
 /// A test, and a roteiro that runs in the windows, answer in the person's place.
 namespace varenta {
 
+/// A path, and which of the filters offered was chosen, counted from 1.
+struct ArquivoEscolhido {
+    QString caminho;
+    int filtro;
+};
+
 struct Dialogos {
     std::function<void(const QString& texto)> mensagem;
     /// True for Yes.
@@ -20,6 +26,9 @@ struct Dialogos {
     std::function<std::optional<QString>(const QString& filtros, int filtroInicial,
                                          const QString& extensãoPadrão)>
         arquivoParaSalvar;
+    /// The same for a figure, whose filters tell more than the ending of the name.
+    std::function<std::optional<ArquivoEscolhido>(const QString& filtros, int filtroInicial)>
+        figuraParaSalvar;
     /// Shows a topic of the help, without one its index. Raises a run-time error where it can't.
     std::function<void(std::optional<int> tópico)> ajuda;
 };

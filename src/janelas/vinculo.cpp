@@ -2,6 +2,7 @@
 
 #include "comum/atos.h"
 #include "comum/planilha.h"
+#include "janelas/comandos_da_figura.h"
 #include "janelas/janelas.h"
 #include "janelas/linha_de_entrada.h"
 #include "janelas/texto_digitado.h"
@@ -176,6 +177,7 @@ struct Vinculo::Ligar {
     }
 
     void operator()(WidgetDesenho& desenho) const {
+        oferecerFigura(desenho, v.tela_);
         QObject::connect(&desenho, &WidgetDesenho::mouseMovido, &v,
                          [v = &v, nome = nome](double x, double y) {
                              v->agir(nome, [&](const Alvo& alvo) { atos::moverMouse(alvo, x, y); });

@@ -13,6 +13,9 @@
 #include <cstdint>
 #include <optional>
 
+struct ConteudoDoDesenho;
+class PinturaDoDesenho;
+
 /// Shows a drawing surface of the core. What it holds is painted once into an image, and only copied until
 /// the drawing or the size changes.
 ///
@@ -54,6 +57,10 @@ class WidgetDesenho : public QWidget {
     /// The tick captions of both axes, from the origin on.
     void escreverEscalas(const QStringList& x, const QStringList& y);
 
+    /// What it shows, to be painted elsewhere. Its strokes last until `mostrar`.
+    ConteudoDoDesenho conteúdo() const;
+    int linhasDeAltura() const { return linhasDeAltura_; }
+
     /// Canvas units to the widget's own.
     QTransform transformação() const;
     /// The rectangle of the axes in the widget, in whole pixels.
@@ -73,18 +80,14 @@ class WidgetDesenho : public QWidget {
     void resizeEvent(QResizeEvent* evento) override;
     void mouseMoveEvent(QMouseEvent* evento) override;
     void leaveEvent(QEvent* evento) override;
+    void keyPressEvent(QKeyEvent* evento) override;
 
   private:
     bool éGráfico() const { return !eixos_.isEmpty(); }
-    QMargins margensDoGráfico() const;
-    int larguraDaLegenda() const;
+    PinturaDoDesenho pintura() const;
     QPointF emUnidades(QPointF ponto) const;
     void ancorarFilhos();
     void pintarImagem();
-    void pintarFundoDoGráfico(QPainter& pintor) const;
-    void pintarEscalas(QPainter& pintor) const;
-    void pintarLegenda(QPainter& pintor) const;
-    void pintarTraços(QPainter& pintor) const;
 
     QRectF area_, eixos_;
     QString figura_, rotulosX_, rotulosY_, tituloX_, tituloY_;

@@ -46,6 +46,11 @@ class ComJanelas : public testing::Test {
                     caixas.push_back(filtros);
                     return tirar(arquivos);
                 },
+            .figuraParaSalvar = [this](const QString& filtros, int) -> std::optional<ArquivoEscolhido> {
+                caixas.push_back(filtros);
+                if (const auto caminho = tirar(arquivos)) return ArquivoEscolhido{*caminho, filtroEscolhido};
+                return std::nullopt;
+            },
             .ajuda = [this](std::optional<int> tópico) { ajudas.push_back(tópico); },
         };
         iniciarSistema();
@@ -106,6 +111,8 @@ class ComJanelas : public testing::Test {
     std::vector<std::optional<int>> ajudas;
     std::deque<bool> respostas;
     std::deque<std::optional<QString>> arquivos;
+    /// Which filter is chosen along with a figure's file, from 1.
+    int filtroEscolhido = 1;
 
   private:
     template <class Valor>
