@@ -166,6 +166,7 @@ QWidget* JanelaDaAjuda::criarConteúdo() {
     conteúdo_ = new QTreeWidget{this};
     conteúdo_->setObjectName(QStringLiteral("conteudo"));
     conteúdo_->setHeaderHidden(true);
+    conteúdo_->setAccessibleName(QStringLiteral("Conteúdo da ajuda"));
     QTreeWidgetItem* capítulo = nullptr;
     for (const auto& página : páginas_) {
         if (!capítulo || capítulo->text(0) != página.capítulo) {
@@ -193,6 +194,8 @@ QWidget* JanelaDaAjuda::criarÍndice() {
     filtro->setObjectName(QStringLiteral("filtroDoIndice"));
     filtro->setPlaceholderText(QStringLiteral("Palavra do índice"));
     filtro->setClearButtonEnabled(true);
+    filtro->setAccessibleName(filtro->placeholderText());
+    índice_->setAccessibleName(QStringLiteral("Índice da ajuda"));
     connect(filtro, &QLineEdit::textChanged, this, &JanelaDaAjuda::filtrarÍndice);
     return empilhar(filtro, índice_);
 }
@@ -204,6 +207,8 @@ QWidget* JanelaDaAjuda::criarBusca() {
     caixa->setObjectName(QStringLiteral("busca"));
     caixa->setPlaceholderText(QStringLiteral("Palavras em qualquer página"));
     caixa->setClearButtonEnabled(true);
+    caixa->setAccessibleName(caixa->placeholderText());
+    achados_->setAccessibleName(QStringLiteral("Páginas achadas"));
     connect(caixa, &QLineEdit::textChanged, this, &JanelaDaAjuda::buscar);
     return empilhar(caixa, achados_);
 }

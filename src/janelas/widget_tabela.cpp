@@ -209,7 +209,11 @@ void WidgetTabela::ajustarColunas() {
 }
 
 int WidgetTabela::larguraDasColunas() const {
-    int maior = fontMetrics().horizontalAdvance(modeloGrade_.textoMaisLongo()) + 2 * folgaDoTexto;
+    const auto maisLongo = modeloGrade_.textoMaisLongo();
+    // Another text of as many characters may be all digits, and wider.
+    const auto dígitos = QString{maisLongo.size(), QLatin1Char{'0'}};
+    int maior = 2 * folgaDoTexto +
+                qMax(fontMetrics().horizontalAdvance(maisLongo), fontMetrics().horizontalAdvance(dígitos));
     for (int c = 0; c < model()->columnCount(); ++c)
         maior = qMax(maior, horizontalHeader()->sectionSizeHint(c));
     return maior;

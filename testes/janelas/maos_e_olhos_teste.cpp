@@ -1,5 +1,6 @@
 #include "todas_as_janelas.h"
 
+#include "janelas/janela_ajuda.h"
 #include "janelas/linha_de_estado.h"
 #include "janelas/paletas.h"
 #include "janelas/rotulo_valor.h"
@@ -26,6 +27,7 @@
 #include <QScrollBar>
 #include <QStyle>
 #include <QStyleOptionSlider>
+#include <QTextBrowser>
 #include <QThread>
 
 #include <cmath>
@@ -528,6 +530,10 @@ TEST_F(MãosEOlhos, nenhum_texto_fica_cortado) {
                 for (int c = 0; c < tabela->model()->columnCount(); ++c) {
                     EXPECT_GE(tabela->columnWidth(c), tabela->horizontalHeader()->sectionSizeHint(c))
                         << deQuem(*widget) << ' ' << c;
+                    constexpr int bordasDaCélula = 6;
+                    for (int l = 0; l < tabela->model()->rowCount(); ++l)
+                        cabe(*tabela, tabela->columnWidth(c) - bordasDaCélula,
+                             tabela->model()->index(l, c).data().toString());
                 }
         }
 }
@@ -575,6 +581,17 @@ TEST_F(TemaEscuro, os_desenhos_ficam_no_seu_papel_claro) {
             EXPECT_GT(imagem.pixelColor(0, imagem.height() - 1).lightness(), 200) << deQuem(*desenho);
         }
     EXPECT_LT(janela(form7).grab().toImage().pixelColor(1, 1).lightness(), 80);
+}
+
+TEST(JanelaDaAjuda, todo_controle_tem_nome_para_quem_não_vê) {
+    const JanelaDaAjuda ajuda;
+    std::size_t quantos = 0;
+    for (auto* widget : controlesDe(ajuda, éControle)) {
+        if (!éUm<QLineEdit, QAbstractItemView, QTextBrowser>(*widget)) continue;
+        EXPECT_FALSE(textoAcessível(*widget, QAccessible::Name).isEmpty()) << deQuem(*widget);
+        ++quantos;
+    }
+    EXPECT_EQ(quantos, 6u);
 }
 
 TEST(Paletas, uma_é_clara_e_outra_escura) {
