@@ -29,18 +29,25 @@ Parametros deslocado(Parametros p, std::size_t k, double passo) {
     return p;
 }
 
-/// A row of the simplex. Its sum may belong to another point: see `novoVértice`.
-struct Vértice {
-    Parametros p;
-    double soma;
-};
-using Simplex = std::array<Vértice, n + 1>;
-
 /// A point with what it is worth.
 struct Ponto {
     Parametros p;
     Avaliação valor;
 };
+
+/// A row of the simplex.
+struct Vértice {
+    Vértice() = default;
+    Vértice(const Ponto& ponto) : p{ponto.p}, soma{ponto.valor.soma}, valor{ponto.valor} {}
+    Vértice(const Parametros& p_, double somaAlheia) : p{p_}, soma{somaAlheia} {}
+
+    Parametros p;
+    /// Places it among the others. It may be another point's: see `novoVértice`.
+    double soma;
+    /// What `p` itself is worth, where that is known.
+    std::optional<Avaliação> valor;
+};
+using Simplex = std::array<Vértice, n + 1>;
 
 class Busca {
   public:
@@ -49,6 +56,9 @@ class Busca {
 
     std::vector<Avaliação> avaliar(std::span<const Parametros> pontos) const { return objetivo_(pontos); }
     Ponto avaliar(const Parametros& p) const { return {p, objetivo_({&p, 1}).front()}; }
+    Ponto avaliar(const Vértice& vértice) const {
+        return vértice.valor ? Ponto{vértice.p, *vértice.valor} : avaliar(vértice.p);
+    }
 
     /// Tells the mean deviation if it is the smallest so far.
     void comparar(const Avaliação& avaliação) {
@@ -92,7 +102,7 @@ constexpr std::array<Parametros, n + 1> verticesIniciais = {{{0.205, 5.217, -4.7
 Simplex simplexInicial(const Busca& busca) {
     const auto valores = busca.avaliar(verticesIniciais);
     Simplex S;
-    for (std::size_t v = 0; v < S.size(); ++v) S[v] = {verticesIniciais[v], valores[v].soma};
+    for (std::size_t v = 0; v < S.size(); ++v) S[v] = Ponto{verticesIniciais[v], valores[v]};
     return S;
 }
 
@@ -120,31 +130,32 @@ Parametros centro(const Simplex& M) {
 Vértice novoVértice(const Busca& busca, const Simplex& M) {
     const double melhor = M.front().soma, penúltima = M[n - 1].soma, pior = M[n].soma;
     const auto C = centro(M);
-    const auto vértice = [&](const Parametros& p) { return Vértice{p, busca.avaliar(p).valor.soma}; };
     const auto entre = [&](const Parametros& p) {
         return cada([&](std::size_t k) { return 0.5 * p[k] + 0.5 * C[k]; });
     };
 
-    const auto refletido = vértice(cada([&](std::size_t k) { return 2 * C[k] - M[n].p[k]; }));
-    if (refletido.soma >= melhor && refletido.soma < penúltima) return refletido;
-    if (refletido.soma < melhor) {
-        const auto expandido = vértice(cada([&](std::size_t k) { return 2 * refletido.p[k] - C[k]; }));
-        return expandido.soma < melhor ? expandido : refletido;
+    const auto refletido = busca.avaliar(cada([&](std::size_t k) { return 2 * C[k] - M[n].p[k]; }));
+    const double Fr = refletido.valor.soma;
+    if (Fr >= melhor && Fr < penúltima) return refletido;
+    if (Fr < melhor) {
+        const auto expandido = busca.avaliar(cada([&](std::size_t k) { return 2 * refletido.p[k] - C[k]; }));
+        return expandido.valor.soma < melhor ? expandido : refletido;
     }
-    const auto contraído = vértice(entre(refletido.soma < pior ? refletido.p : M[n].p));
+    const auto contraído = busca.avaliar(entre(Fr < pior ? refletido.p : M[n].p));
+    if (contraído.valor.soma < pior) return contraído;
     // A contraction that fails leaves the centre, with the sum of the reflected point.
-    return contraído.soma < pior ? contraído : Vértice{C, refletido.soma};
+    return {C, Fr};
 }
 
 /// The best vertex of the last ordering: one found after it is passed over.
 Vértice descerPeloSimplex(Busca& busca) {
     auto S = simplexInicial(busca);
-    std::optional<Ponto> primeiro;
     for (int k = 0; k < 100; ++k) {
         S = ordenar(S);
         S.back() = novoVértice(busca, S);
-        if (!primeiro || primeiro->p != S.front().p) primeiro = busca.avaliar(S.front().p);
-        busca.comparar(primeiro->valor);
+        auto& primeiro = S.front();
+        primeiro.valor = busca.avaliar(primeiro).valor;
+        busca.comparar(*primeiro.valor);
         busca.avançar(0.25);
     }
     return S.front();
@@ -153,7 +164,7 @@ Vértice descerPeloSimplex(Busca& busca) {
 // Stage 2: steepest descent.
 
 void guardarSeMelhor(Vértice& melhor, const Ponto& ponto) {
-    if (melhor.soma >= ponto.valor.soma) melhor = {ponto.p, ponto.valor.soma};
+    if (melhor.soma >= ponto.valor.soma) melhor = ponto;
 }
 
 /// The points p + h and p - h of each parameter in turn.
@@ -210,7 +221,7 @@ std::optional<Passo> passoDeDescida(const Busca& busca, const Ponto& p, const Ve
 }
 
 void descerPeloGradiente(Busca& busca, Vértice& melhor) {
-    auto p = busca.avaliar(melhor.p);
+    auto p = busca.avaliar(melhor);
     for (int k = 0; k <= 20; ++k) {
         const auto g = direçãoDeSubida(busca, p);
         if (!g) break;
@@ -256,7 +267,7 @@ Vetor6 passoDeNewton(const Busca& busca, const Ponto& p) {
 }
 
 void descerPorNewton(Busca& busca, Vértice& melhor) {
-    auto p = busca.avaliar(melhor.p);
+    auto p = busca.avaliar(melhor);
     double fator = 2;
     for (int k = 1; k <= 10; ++k) {
         const auto x = passoDeNewton(busca, p);

@@ -14,7 +14,7 @@ using std::fabs;
 using std::sqrt;
 
 /// What all points of one set of conditions share.
-template <class Real, class Divisor = Real>
+template <class Real, class Divisor = Real, class Repetido = Divisor>
 struct Constantes {
     Real W, A, B, C, D, E, F;
     Real s2; // sin(jet)²
@@ -22,8 +22,8 @@ struct Constantes {
 };
 
 /// `condições` needs R, W, A to F.
-template <class Real, class Divisor = Real, class Condições>
-Constantes<Real, Divisor> constantes(const Condições& condições, double s2) {
+template <class Real, class Divisor = Real, class Repetido = Divisor, class Condições>
+Constantes<Real, Divisor, Repetido> constantes(const Condições& condições, double s2) {
     const Real R = condições.R;
     return {.W = condições.W,
             .A = condições.A,
@@ -39,29 +39,30 @@ Constantes<Real, Divisor> constantes(const Condições& condições, double s2) 
 }
 
 /// The distance from the sprinkler, and how much wind draws a drop in from there.
-template <class Real, class Divisor>
+template <class Real, class Repetido>
 struct Lugar {
     Real r;
-    Divisor q;
+    Repetido q;
 };
 
-template <class Real, class Divisor>
-Lugar<Real, Divisor> lugar(Real x, Real y, const Constantes<Real, Divisor>& c) {
+template <class Real, class Divisor, class Repetido>
+Lugar<Real, Repetido> lugar(Real x, Real y, const Constantes<Real, Divisor, Repetido>& c) {
     const Real r = sqrt(x * x + y * y);
-    return {r, Divisor{sqrt(c.s2 * (x * x) + y * y) / r}};
+    return {r, Repetido{sqrt(c.s2 * (x * x) + y * y) / r}};
 }
 
 /// The model's terms at a point.
-template <class Real, class Divisor>
+template <class Real, class Repetido>
 struct Termos {
     Real r;
-    Divisor q;
+    Repetido q;
     Real T, P;
     Real g1, g2, g3, g4;
 };
 
-template <class Real, class Divisor>
-Termos<Real, Divisor> termos(const Lugar<Real, Divisor>& lugar, const Constantes<Real, Divisor>& c) {
+template <class Real, class Divisor, class Repetido>
+Termos<Real, Repetido> termos(const Lugar<Real, Repetido>& lugar,
+                              const Constantes<Real, Divisor, Repetido>& c) {
     const auto& [W, A, B, C, D, E, F, s2, R, R2, R3] = c;
     const auto& [r, q] = lugar;
     const Real rR = r * R;
@@ -74,29 +75,31 @@ Termos<Real, Divisor> termos(const Lugar<Real, Divisor>& lugar, const Constantes
     return {r, q, T, P, g1, g2, g3, g4};
 }
 
-template <class Real, class Divisor>
-Termos<Real, Divisor> termos(Real x, Real y, const Constantes<Real, Divisor>& c) {
+template <class Real, class Divisor, class Repetido>
+Termos<Real, Repetido> termos(Real x, Real y, const Constantes<Real, Divisor, Repetido>& c) {
     return termos(lugar(x, y, c), c);
 }
 
-template <class Real, class Divisor>
-Real derivada11(Real x, const Termos<Real, Divisor>& t, const Constantes<Real, Divisor>& c) {
+template <class Real, class Divisor, class Repetido>
+Real derivada11(Real x, const Termos<Real, Repetido>& t, const Constantes<Real, Divisor, Repetido>& c) {
     return Real{1} - (c.W * x / c.R) * (t.g1 + t.g2 * t.q * x + t.g3 * (x * c.s2 / t.q) + t.g4 * (t.q / x));
 }
 
 // The minus of the next two stands outside the quotient: the same bits, and the quotients of the other two.
-template <class Real, class Divisor>
-Real derivada12(Real x, Real y, const Termos<Real, Divisor>& t, const Constantes<Real, Divisor>& c) {
+template <class Real, class Divisor, class Repetido>
+Real derivada12(Real x, Real y, const Termos<Real, Repetido>& t,
+                const Constantes<Real, Divisor, Repetido>& c) {
     return -(c.W * y / c.R) * (t.g1 + t.g2 * t.q * x + t.g3 * (x / t.q));
 }
 
-template <class Real, class Divisor>
-Real derivada21(Real x, Real y, const Termos<Real, Divisor>& t, const Constantes<Real, Divisor>& c) {
+template <class Real, class Divisor, class Repetido>
+Real derivada21(Real x, Real y, const Termos<Real, Repetido>& t,
+                const Constantes<Real, Divisor, Repetido>& c) {
     return -(c.W * y * x / c.R) * (t.g2 * t.q + t.g3 * (c.s2 / t.q));
 }
 
-template <class Real, class Divisor>
-Real derivada22(Real y, const Termos<Real, Divisor>& t, const Constantes<Real, Divisor>& c) {
+template <class Real, class Divisor, class Repetido>
+Real derivada22(Real y, const Termos<Real, Repetido>& t, const Constantes<Real, Divisor, Repetido>& c) {
     return Real{1} - (c.W * y / c.R) * (t.g2 * t.q * y + t.g3 * (y / t.q) + t.g4 * (t.q / y));
 }
 
@@ -106,9 +109,9 @@ struct Passe {
     Real x, y, err, det;
 };
 
-template <class Real, class Divisor>
-Passe<Real> passeDeNewton(Real x, Real y, Real x0, Real y0, const Lugar<Real, Divisor>& lugar,
-                          const Constantes<Real, Divisor>& c) {
+template <class Real, class Divisor, class Repetido>
+Passe<Real> passeDeNewton(Real x, Real y, Real x0, Real y0, const Lugar<Real, Repetido>& lugar,
+                          const Constantes<Real, Divisor, Repetido>& c) {
     const auto t = termos(lugar, c);
     const Real F1 = -((x - t.T - t.P * t.q * t.r * x * c.W) - x0);
     const Real F2 = -((y - t.P * c.W * t.q * t.r * y) - y0);
@@ -122,8 +125,8 @@ Passe<Real> passeDeNewton(Real x, Real y, Real x0, Real y0, const Lugar<Real, Di
     return {x + dx, y + dy, fabs(F1) + fabs(F2), det};
 }
 
-template <class Real, class Divisor>
-Passe<Real> passeDeNewton(Real x, Real y, Real x0, Real y0, const Constantes<Real, Divisor>& c) {
+template <class Real, class Divisor, class Repetido>
+Passe<Real> passeDeNewton(Real x, Real y, Real x0, Real y0, const Constantes<Real, Divisor, Repetido>& c) {
     return passeDeNewton(x, y, x0, y0, lugar(x, y, c), c);
 }
 

@@ -63,6 +63,14 @@ Parametros misturar(double a, const Parametros& p, double b, const Parametros& q
 
 const std::vector<double> deUmASete = {1, 2, 3, 4, 5, 6, 7};
 
+/// What is asked for after `novo` took the place of the seventh of the vertices with the sums 1 to 7: the
+/// reflection of the sixth, which is the worst now. The row that is shown, the best, is known.
+void esperarNoLugarDaPior(const BuscaComRoteiro& b, const Parametros& novo) {
+    Parametros centroNovo;
+    for (std::size_t k = 0; k < 6; ++k) centroNovo[k] = (7 * centro[k] - vértices[6][k] + novo[k]) / 7;
+    esperarPonto(b.pedidos.back()[0], misturar(2, centroNovo, -1, vértices[5]));
+}
+
 TEST(Busca, ComeçaPelosSeteVérticesERefleteOPiorNoCentroDeTodos) {
     BuscaComRoteiro b;
     b.buscar({deUmASete});
@@ -73,13 +81,13 @@ TEST(Busca, ComeçaPelosSeteVérticesERefleteOPiorNoCentroDeTodos) {
 }
 
 TEST(Busca, UmaReflexãoMédiaTomaOLugarDaPior) {
-    BuscaComRoteiro b;
-    b.buscar({deUmASete, {5.5}});
-    // Nothing but the best row is asked for next: its deviation.
-    EXPECT_EQ(b.pedidos.back(), Pontos{vértices[0]});
-    BuscaComRoteiro igual;
-    igual.buscar({deUmASete, {1}}); // at the best itself too
-    EXPECT_EQ(igual.pedidos.back(), Pontos{vértices[0]});
+    const auto refletido = misturar(2, centro, -1, vértices[6]);
+    for (const double soma : {5.5, 1.0}) { // at the best itself too
+        BuscaComRoteiro b;
+        b.buscar({deUmASete, {soma}});
+        EXPECT_EQ(b.pedidos.size(), 3u);
+        esperarNoLugarDaPior(b, refletido);
+    }
 }
 
 TEST(Busca, UmaReflexãoMelhorQueTodasSeExpande) {
@@ -90,15 +98,14 @@ TEST(Busca, UmaReflexãoMelhorQueTodasSeExpande) {
 }
 
 TEST(Busca, AExpansãoSóFicaSeVencerAMelhorENãoAReflexão) {
-    // Expanded 0.9, worse than the reflection's 0.5 but better than the best: it stays. Row 1 of this step is
-    // still the old best; the next step's is the new one.
+    // Expanded 0.9, worse than the reflection's 0.5 but better than the best: it stays.
     const auto refletido = misturar(2, centro, -1, vértices[6]);
     BuscaComRoteiro fica;
-    fica.buscar({deUmASete, {0.5}, {0.9}, {1}, {3}});
-    esperarPonto(fica.pedidos.back()[0], misturar(2, refletido, -1, centro));
+    fica.buscar({deUmASete, {0.5}, {0.9}});
+    esperarNoLugarDaPior(fica, misturar(2, refletido, -1, centro));
     BuscaComRoteiro sai;
-    sai.buscar({deUmASete, {0.5}, {1}, {1}, {3}});
-    esperarPonto(sai.pedidos.back()[0], refletido);
+    sai.buscar({deUmASete, {0.5}, {1}});
+    esperarNoLugarDaPior(sai, refletido);
 }
 
 TEST(Busca, UmaReflexãoRuimContraiEntreElaEOCentro) {
@@ -118,7 +125,7 @@ TEST(Busca, UmaContraçãoQueFalhaDeixaOCentroComASomaDaReflexão) {
     // The contraction gives 7, no better than the worst: the centre goes in with the reflection's 6.5, never
     // asked for, and is the worst of the next step, which it so is reflected at.
     BuscaComRoteiro b;
-    b.buscar({deUmASete, {6.5}, {7}, {1}});
+    b.buscar({deUmASete, {6.5}, {7}});
     Parametros novo; // the mean of the first six and the centre
     for (std::size_t k = 0; k < 6; ++k) novo[k] = (7 * centro[k] - vértices[6][k] + centro[k]) / 7;
     esperarPonto(b.pedidos.back()[0], misturar(2, novo, -1, centro));
@@ -131,14 +138,23 @@ TEST(Busca, OsEmpatesCaemNaOrdemInversa) {
     esperarPonto(b.pedidos.back()[0], misturar(2, centro, -1, vértices[0]));
 }
 
+TEST(Busca, OCentroQueChegaÀFrenteÉPedidoEleMesmo) {
+    // With equal sums everywhere the first step leaves the centre with the reflection's sum, and the next
+    // ordering puts it in front: its own sum is needed then, for the deviation.
+    BuscaComRoteiro b;
+    b.buscar({{4}, {4}, {4}, {4}, {4}, {9}});
+    ASSERT_EQ(b.pedidos.size(), 7u);
+    esperarPonto(b.pedidos[5][0], centro);
+    EXPECT_EQ(b.desvios, std::vector<double>{2});
+}
+
 TEST(Busca, ODesvioSóÉContadoQuandoCai) {
     BuscaComRoteiro b;
-    b.buscar({deUmASete, {5.5}, {16}, {5.6}, {5.7}});
-    // The second step contracts. Row 1 stays the same vertex, so its deviation sqrt(16 / 1) is worked out and
-    // told once.
-    EXPECT_EQ(b.desvios, std::vector<double>{4});
+    b.buscar({{4, 5, 6, 7, 8, 9, 10}, {8.5}, {8.6}, {8.7}});
+    // The second step contracts. Row 1 stays the same vertex, so its deviation sqrt(4 / 1) is told once.
+    EXPECT_EQ(b.desvios, std::vector<double>{2});
     EXPECT_EQ(b.barras, (std::vector<double>{0.25, 0.5}));
-    EXPECT_EQ(b.pedidos.size(), 6u);
+    EXPECT_EQ(b.pedidos.size(), 5u);
 }
 
 /// The objective of a simple valley with its floor at `fundo`, and what a search in it tells.
@@ -194,9 +210,9 @@ TEST(Busca, OsDesviosContadosSóCaemEOÚltimoÉODoResultado) {
 
 TEST(Busca, CadaEtapaAvaliaNoMáximoOQueSeEspera) {
     const BuscaNoVale b{quadrático};
-    // 7 at the start, 3 in each of 100 steps; in the second stage 12 neighbours and three steps, halvings
+    // 7 at the start, 2 in each of 100 steps; in the second stage 12 neighbours and three steps, halvings
     // besides; 73 in each of ten steps of the third.
-    EXPECT_LE(b.avaliações, 7u + 300 + 21 * (12 + 3 + 20) + 1 + 10 * 73 + 1);
+    EXPECT_LE(b.avaliações, 7u + 200 + 21 * (12 + 3 + 20) + 10 * 73);
 }
 
 TEST(Busca, UmValePlanoNãoTemAjuste) {
@@ -214,6 +230,9 @@ struct BuscaPorEtapas {
     std::vector<double> barras;
     Pontos gradientes, sós;
     Parametros newton{};
+
+    /// A where the second stage starts.
+    double início() const { return gradientes.front()[0] - 0.001; }
 
     /// `um(p)` answers a single point once the first stage is over; the sum was 5 until then.
     template <class Um>
@@ -244,12 +263,12 @@ TEST(Busca, UmaDescidaQueFalhaLogoDeixaABarraEm35EPartedoMesmoPonto) {
     for (const auto& [tolerância, passos] : {std::pair{1e-5, 19u}, {1e-7, 26u}}) {
         BuscaPorEtapas b;
         b.buscar([](const Parametros&) { return 5.0; }, tolerância);
-        // The start, then steps of 1, 1/2, ... to the first below half the tolerance: 2^-18 is below 5e-6,
-        // 2^-25 below 5e-8.
-        EXPECT_EQ(b.sós.size(), 1 + passos);
-        EXPECT_EQ(b.sós[1][0], b.sós[0][0] - 1);
+        // Steps of 1, 1/2, ... to the first below half the tolerance: 2^-18 is below 5e-6, 2^-25 below 5e-8.
+        // What the start is worth is known.
+        EXPECT_EQ(b.sós.size(), passos);
+        EXPECT_NEAR(b.sós[0][0], b.início() - 1, 1e-12);
         EXPECT_EQ(b.gradientes.size(), 1u);
-        EXPECT_EQ(b.newton[0], b.sós[0][0] + 0.001);
+        EXPECT_EQ(b.newton, b.gradientes[0]);
         ASSERT_EQ(b.barras.size(), 101u);
         EXPECT_EQ(b.barras.back(), 35);
     }
@@ -257,9 +276,7 @@ TEST(Busca, UmaDescidaQueFalhaLogoDeixaABarraEm35EPartedoMesmoPonto) {
 
 TEST(Busca, OPassoMaisCurtoÉTentadoEAbandonadoMesmoQueDesça) {
     BuscaPorEtapas b;
-    b.buscar(
-        [&](const Parametros& p) { return !b.sós.empty() && b.sós.front()[0] - p[0] < 5e-6 ? 1.0 : 5.0; },
-        1e-5);
+    b.buscar([&](const Parametros& p) { return b.início() - p[0] < 5e-6 ? 1.0 : 5.0; }, 1e-5);
     // Only 2^-18 goes down, and it is below the limit: no second gradient.
     EXPECT_EQ(b.gradientes.size(), 1u);
     EXPECT_EQ(b.barras.back(), 35);
@@ -269,11 +286,9 @@ TEST(Busca, UmaMudançaPequenaSóPõeAContagemEm35EADescidaSegue) {
     // The sum falls by 1e-6 with the step of 1, and more at none: the parabola's end changes it by less than
     // the tolerance, so the bar jumps to 35.5, and the stage goes on with another gradient.
     BuscaPorEtapas b;
-    double início = 0;
     b.buscar(
         [&](const Parametros& p) {
-            if (b.sós.empty()) início = p[0];
-            const double t = início - p[0];
+            const double t = b.início() - p[0];
             return 5 - 1e-6 * t * (2 - t) - 1e-9 * t;
         },
         1e-5);

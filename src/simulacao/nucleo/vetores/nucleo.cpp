@@ -71,11 +71,11 @@ Máscara ocupadas(const Bloco& b, std::size_t v) {
     return modelo::passeDeNewton(x, y, x0, y0, constantes<Vetor>(*p.condições, p.senos.s2));
 }
 
-using ConstantesUsuais = modelo::Constantes<Vetor, DivisorConhecido>;
+using ConstantesUsuais = modelo::Constantes<Vetor, DivisorConhecido, DivisorRepetido>;
 
 /// How a pass begins.
 struct Começo {
-    modelo::Lugar<Vetor, DivisorConhecido> lugar;
+    modelo::Lugar<Vetor, DivisorRepetido> lugar;
     /// Whether x and y of all lanes lie within 2^-32 and 2^32 in magnitude. With the constants in that range
     /// too every quotient by a known divisor lies within 2^-200 and 2^200, and the determinant is finite.
     bool usual;
@@ -90,7 +90,7 @@ Começo começo(Vetor x, Vetor y, const ConstantesUsuais& c) {
 
 /// Stage 1: the solutions, in b.x and b.y.
 [[gnu::flatten]] void resolver(Bloco& b, const PreparoDoLote& p, Contas& contas) {
-    const auto c = constantes<Vetor, DivisorConhecido>(*p.condições, p.senos.s2);
+    const auto c = constantes<Vetor, DivisorConhecido, DivisorRepetido>(*p.condições, p.senos.s2);
     Lista ativos;
     for (std::size_t v = 0; v < b.vetores; ++v) ativos.juntar(v, ocupadas(b, v));
     const double* x = b.x0;
@@ -104,18 +104,20 @@ Começo começo(Vetor x, Vetor y, const ConstantesUsuais& c) {
         auto este = começar(0);
         for (std::size_t n = 0; n < nesta; ++n) {
             const std::size_t v = ativos.vetor[n], k = v * faixas;
-            const Máscara faixas = ativos.faixas[n];
+            const Máscara ativas = ativos.faixas[n];
             const auto seguinte = começar(n + 1 < nesta ? n + 1 : n);
+            nãoAdiar(seguinte.lugar.q);
             const Vetor xk = Vetor::lido(x + k), yk = Vetor::lido(y + k);
             const Vetor x0 = Vetor::lido(b.x0 + k), y0 = Vetor::lido(b.y0 + k);
-            const bool usual = este.usual && p.divisoresConhecidos;
-            const auto fim = usual ? modelo::passeDeNewton(xk, yk, x0, y0, este.lugar, c)
-                                   : passeQualquer(xk, yk, x0, y0, p);
-            if (!usual) contas.suspeito |= (faixas & !finitas(fim.det)).alguma();
-            onde(faixas, fim.x, xk).gravar(b.x + k);
-            onde(faixas, fim.y, yk).gravar(b.y + k);
-            contas.passes += faixas.quantas();
-            ativos.juntar(v, faixas & (fim.err > Vetor{modelo::tolerância}));
+            auto fim = modelo::passeDeNewton(xk, yk, x0, y0, este.lugar, c);
+            if (!este.usual || !p.divisoresConhecidos || duvidoso(fim.x + fim.y)) {
+                fim = passeQualquer(xk, yk, x0, y0, p);
+                contas.suspeito |= (ativas & !finitas(fim.det)).alguma();
+            }
+            onde(ativas, fim.x, xk).gravar(b.x + k);
+            onde(ativas, fim.y, yk).gravar(b.y + k);
+            contas.passes += ativas.quantas();
+            ativos.juntar(v, ativas & (fim.err > Vetor{modelo::tolerância}));
             este = seguinte;
         }
         x = b.x;
@@ -260,15 +262,15 @@ Vetor fatorDeÁrea(Vetor x, Vetor y, const Lugar& lugar, const Constantes& c) {
 
 /// The intensities of those of the list, in place of their relative distances.
 void intensidades(Bloco& b, const Lista& lista, const PreparoDoLote& p, Contas& contas) {
-    const auto c = constantes<Vetor, DivisorConhecido>(*p.condições, p.senos.s2);
+    const auto c = constantes<Vetor, DivisorConhecido, DivisorRepetido>(*p.condições, p.senos.s2);
     const Vetor zero{0.0};
     Máscara ruins = nenhuma();
     for (std::size_t n = 0; n < lista.quantos; ++n) {
         const std::size_t k = lista.vetor[n] * faixas;
         const Vetor x = Vetor::lido(b.x + k), y = Vetor::lido(b.y + k);
         const auto [lugar, usual] = começo(x, y, c);
-        const Vetor fator =
-            usual && p.divisoresConhecidos ? fatorDeÁrea(x, y, lugar, c) : fatorQualquer(x, y, p);
+        Vetor fator = fatorDeÁrea(x, y, lugar, c);
+        if (!usual || !p.divisoresConhecidos || duvidoso(fator)) fator = fatorQualquer(x, y, p);
         const Vetor i = noPerfil(Vetor::lido(b.i + k), p.perfil) * Vetor{p.escala};
         const Máscara molhadas = lista.faixas[n] & !(i == zero);
         const Vetor valor = i / fator;

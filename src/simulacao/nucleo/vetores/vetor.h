@@ -72,6 +72,10 @@ inline unsigned contar(Marcas a) { return (emBits(a) & 1) + (emBits(a) >> 1); }
 inline Registro escolher(Marcas m, Registro sim, Registro não) {
     return _mm_or_pd(_mm_and_pd(m, sim), _mm_andnot_pd(m, não));
 }
+/// Without the lower 26 bits of the significand.
+inline Registro bitsAltos(Registro a) { return _mm_and_pd(a, _mm_castsi128_pd(_mm_set1_epi64x(-(1 << 26)))); }
+/// a where b is the same, NaN elsewhere.
+inline Registro iguaisOuNaN(Registro a, Registro b) { return _mm_or_pd(a, _mm_cmpneq_pd(a, b)); }
 #endif
 
 constexpr std::size_t faixas = sizeof(Registro) / sizeof(double);
@@ -126,8 +130,44 @@ inline Máscara nenhuma() { return Vetor{0.0} < Vetor{0.0}; }
 inline Máscara finitas(Vetor a) { return a - a == Vetor{0.0}; }
 
 #if VARENTA_BITS == 128
-/// Without fused operations a divisor known beforehand gains nothing.
-using DivisorConhecido = Vetor;
+/// A divisor b that is the same for a whole batch. A division is what takes longest of all, but without fused
+/// operations its remainder takes pains. With b = b' + b", both of 26 bits, and p- and p+ a little below and
+/// above 1 / b, by 2^-49 of it:
+///
+///     q = the upper 27 bits of a p+    s = (a - q b') - q b"    a / b between q + s p- and q + s p+
+///
+/// For q b' and q b" have 53 bits at the most, so that they and the first difference are exact; s is off by
+/// half a unit in its last place, which with the roundings of p and s p makes less than 2^-51 of s / b. Where
+/// both bounds round to the same double so does the quotient, and that double is the division instruction's.
+/// Where they don't, once in some millions, the result is NaN, for which see `duvidoso`.
+///
+/// Magnitudes within 2^-900 and 2^900 for a, b, 1 / b and a / b are safe; a must not be 0.
+struct DivisorConhecido : Vetor {
+    Vetor alto, baixo, abaixo, acima;
+
+    explicit DivisorConhecido(Vetor b) : Vetor{b} {
+        const Vetor t = b * Vetor{0x8000001p0}, p = Vetor{1.0} / b;
+        alto = t - (t - b);
+        baixo = b - alto;
+        abaixo = p * Vetor{1 - 0x1p-49};
+        acima = p * Vetor{1 + 0x1p-49};
+    }
+
+    friend Vetor operator/(Vetor a, const DivisorConhecido& b) {
+        const Vetor q = bitsAltos((a * b.acima).v);
+        const Vetor s = (a - q * b.alto) - q * b.baixo;
+        return iguaisOuNaN((q + s * b.abaixo).v, (q + s * b.acima).v);
+    }
+};
+
+/// A divisor of several numbers that lasts no longer than these.
+using DivisorRepetido = Vetor;
+
+/// Whether what was made from quotients by known divisors is to be made again by true division.
+inline bool duvidoso(Vetor a) { return !finitas(a).todas(); }
+
+/// Here and now: see below.
+inline void nãoAdiar(Vetor) {}
 #else
 /// a b + c, rounded once.
 inline Vetor vezesMais(Vetor a, Vetor b, Vetor c) { return vezesMais(a.v, b.v, c.v); }
@@ -140,9 +180,8 @@ inline Vetor vezesMais(Vetor a, Vetor b, Vetor c) { return vezesMais(a.v, b.v, c
 /// instruction bit for bit, if a isn't 0 and nothing leaves the range of normal numbers on the way. For then
 /// b and a can be scaled to 1 <= b < 2 and 1 <= a < 2 (b of 1 is trivial). With u = 2^-53:
 ///
-/// - |p - 1/b| <= u/2, so that q is off a / b by less than one unit in the last place where a >= b. Where a <
-/// b
-///   that unit is u, and q is off by less than (a + 1) u / 2 < 1.5 u.
+/// - |p - 1/b| <= u/2, so that q is off a / b by less than one unit in the last place where a >= b. Where
+///   a < b that unit is u, and q is off by less than (a + 1) u / 2 < 1.5 u.
 /// - The final sum is off a / b by |s| |p - 1/b|, plus |p| times what the rounding of s loses. That can only
 ///   change the rounding if a middle M of two neighbouring doubles lies between both; no quotient lies on
 ///   one.
@@ -150,8 +189,7 @@ inline Vetor vezesMais(Vetor a, Vetor b, Vetor c) { return vezesMais(a.v, b.v, c
 ///   a / b is beyond M if 2 m > B, so by one in whole numbers at least, and s p = (s / b)(1 + d) with
 ///   |d| <= b u / 2, too little to undo a difference of one in B, as B (B + 1) < 2^106.
 /// - If M is a unit and a half off, a and b must be the two doubles next to 2 and below it, a first. These
-/// give
-///   q = 1, s = -2^-52 and the right quotient.
+///   give q = 1, s = -2^-52 and the right quotient.
 ///
 /// Which range is safe the caller must know: magnitudes within 2^-900 and 2^900 for a, b, 1 / b and a / b
 /// are.
@@ -165,6 +203,20 @@ struct DivisorConhecido : Vetor {
         return vezesMais(vezesMais(-q, b, a), b.recíproco, q);
     }
 };
+using DivisorRepetido = DivisorConhecido;
+
+/// No quotient is ever in doubt.
+inline bool duvidoso(Vetor) { return false; }
+
+/// Has the divisor made here and now. Clang puts off what isn't needed yet, even if the processor has
+/// nothing else to do meanwhile.
+inline void nãoAdiar(const DivisorRepetido& b) {
+#if defined(__clang__)
+    asm volatile("" : : "v"(b.recíproco.v) : "memory");
+#else
+    static_cast<void>(b);
+#endif
+}
 #endif
 
 } // namespace
