@@ -1,10 +1,10 @@
 #include "janelas/comandos_da_figura.h"
 
-#include "comum/arquivos_de_dados.h"
 #include "comum/erro_execucao.h"
 #include "comum/plataforma.h"
 #include "janelas/dialogos.h"
 #include "janelas/figuras_das_telas.h"
+#include "janelas/gravar_copia.h"
 #include "janelas/widget_desenho.h"
 
 #include <QAction>
@@ -69,13 +69,6 @@ Destino destinoDe(const varenta::ArquivoEscolhido& escolhido) {
     return {escolhido.caminho + QLatin1Char{'.'} + QLatin1String{doFiltro->extensão}, doFiltro};
 }
 
-bool podeGravar(const QString& caminho) {
-    const QFileInfo arquivo{caminho};
-    return !arquivo.exists() ||
-           varenta::plataforma::perguntar("O arquivo " + arquivo.fileName().toStdString() +
-                                          " já existe. Deseja substituí-lo?");
-}
-
 void copiar(const Figura& figura) {
     auto dados = std::make_unique<QMimeData>();
     dados->setImageData(imagemDaFigura(figura, resoluçãoUsual));
@@ -88,9 +81,7 @@ void salvar(const Figura& figura) {
     const auto escolhido = varenta::dialogos().figuraParaSalvar(filtros(), formatoInicial);
     if (!escolhido || escolhido->caminho.isEmpty()) return;
     const auto destino = destinoDe(*escolhido);
-    if (!podeGravar(destino.caminho)) return;
-    varenta::gravarArquivoDeDados(destino.caminho.toStdString(), destino.formato->bytes(figura).toStdString(),
-                                  "O arquivo não pôde ser salvo: ", "!");
+    gravarCópia(destino.caminho.toStdString(), destino.formato->bytes(figura).toStdString());
 }
 
 void acrescentar(WidgetDesenho& desenho, const QString& texto, const QKeySequence& tecla,

@@ -1,6 +1,7 @@
 #include "janelas/linha_de_entrada.h"
 
 #include "comum/texto_tabela.h"
+#include "janelas/teclas.h"
 #include "janelas/widget_tabela.h"
 
 #include <QClipboard>

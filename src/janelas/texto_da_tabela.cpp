@@ -1,10 +1,8 @@
 #include "janelas/texto_da_tabela.h"
 
-#include "comum/arquivos_de_dados.h"
 #include "comum/plataforma.h"
 #include "comum/texto_tabela.h"
-
-#include <QFileInfo>
+#include "janelas/gravar_copia.h"
 
 #include <set>
 #include <vector>
@@ -54,13 +52,6 @@ class Montador {
     std::set<int> linhas_, colunas_;
 };
 
-bool podeGravar(const std::string& caminho) {
-    const QFileInfo arquivo{QString::fromStdString(caminho)};
-    return !arquivo.exists() ||
-           varenta::plataforma::perguntar("O arquivo " + arquivo.fileName().toStdString() +
-                                          " já existe. Deseja substituí-lo?");
-}
-
 } // namespace
 
 std::string textoDaTabela(const ParteDeTabela& parte, const varenta::FormatoDeTabela& formato) {
@@ -75,10 +66,9 @@ std::string textoDaTabela(const ParteDeTabela& parte, const varenta::FormatoDeTa
 void salvarTabela(const ParteDeTabela& parte) {
     const auto caminho = varenta::plataforma::arquivoParaSalvar(
         {.filtro = "Planilha CSV|*.CSV|Texto com tabulações|*.TXT", .extensãoPadrão = "CSV"});
-    if (!caminho || caminho->empty() || !podeGravar(*caminho)) return;
+    if (!caminho || caminho->empty()) return;
     const bool comTabulações =
         QString::fromStdString(*caminho).endsWith(QLatin1String{".txt"}, Qt::CaseInsensitive);
     const auto& formato = comTabulações ? varenta::formatoDeTexto : varenta::formatoCsv;
-    varenta::gravarArquivoDeDados(*caminho, textoDaTabela(parte, formato),
-                                  "O arquivo não pôde ser salvo: ", "!");
+    gravarCópia(*caminho, textoDaTabela(parte, formato));
 }

@@ -2,6 +2,7 @@
 
 #include "janelas/paletas.h"
 #include "janelas/pintura_desenho.h"
+#include "janelas/teclas.h"
 
 #include <QContextMenuEvent>
 #include <QCoreApplication>
@@ -119,8 +120,7 @@ void WidgetDesenho::leaveEvent(QEvent*) { emit mouseSaiu(); }
 
 /// The menu key, where the system makes no event of its own of it.
 void WidgetDesenho::keyPressEvent(QKeyEvent* evento) {
-    const bool f10 = evento->key() == Qt::Key_F10 && evento->modifiers() == Qt::ShiftModifier;
-    if (!f10 && evento->key() != Qt::Key_Menu) return QWidget::keyPressEvent(evento);
+    if (!éTeclaDeMenu(*evento)) return QWidget::keyPressEvent(evento);
     const QPoint meio = rect().center();
     QContextMenuEvent menu{QContextMenuEvent::Keyboard, meio, mapToGlobal(meio)};
     QCoreApplication::sendEvent(this, &menu);

@@ -1,5 +1,7 @@
 #include "janelas/widget_tabela.h"
 
+#include "janelas/teclas.h"
+
 #include "comum/texto_tabela.h"
 #include "janelas/texto_da_tabela.h"
 
@@ -27,11 +29,6 @@ QString dica(bool aceitaEntradas) {
 }
 
 } // namespace
-
-bool éTeclaDeMenu(const QKeyEvent& tecla) {
-    return tecla.key() == Qt::Key_Menu ||
-           (tecla.key() == Qt::Key_F10 && tecla.modifiers() == Qt::ShiftModifier);
-}
 
 WidgetTabela::WidgetTabela(QWidget* pai) : QTableView{pai}, canto_{new QLabel} {
     setEditTriggers(NoEditTriggers);

@@ -9,9 +9,6 @@
 class QLabel;
 class QMenu;
 
-/// The menu key, or Shift and F10.
-bool éTeclaDeMenu(const QKeyEvent& tecla);
-
 /// A table of texts to read, not to edit: a grid of the core, or, with `matrizes`, control arrays of labels
 /// as its columns. Tab goes past it, the arrows move within it. It asks its model only for the cells in view.
 /// What is selected can be copied, and the whole table saved; a grid that takes entries has blocks pasted.
