@@ -1,7 +1,6 @@
 #include "janelas/comandos_da_figura.h"
 
 #include "comum/erro_execucao.h"
-#include "comum/plataforma.h"
 #include "janelas/dialogos.h"
 #include "janelas/figuras_das_telas.h"
 #include "janelas/gravar_copia.h"
