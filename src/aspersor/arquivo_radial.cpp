@@ -5,10 +5,14 @@
 #include "comum/arquivo_texto.h"
 #include "comum/arquivos_de_dados.h"
 #include "comum/erro_execucao.h"
+#include "comum/limites.h"
 #include "comum/numeros.h"
 #include "comum/operacoes.h"
 #include "comum/plataforma.h"
 #include "comum/verificacoes.h"
+
+#include <algorithm>
+#include <cmath>
 
 namespace varenta {
 namespace {
@@ -66,12 +70,16 @@ std::string próximaPositiva(LeitorDeLinhas& leitor) {
     return linha;
 }
 
+/// How many rows of data the header tells, a whole number.
+double quantasLinhas(const ArquivoRadial& arquivo) { return std::nearbyint(lerEstrito(arquivo.linhas)); }
+
 ArquivoRadial lerCabeçalho(LeitorDeLinhas& leitor) {
     ArquivoRadial arquivo{};
     for (auto* linha :
          {&arquivo.nome, &arquivo.bocais, &arquivo.pressão, &arquivo.anguloJato, &arquivo.vazão})
         *linha = próximaPreenchida(leitor);
     arquivo.linhas = próximaPositiva(leitor);
+    if (quantasLinhas(arquivo) == 0) throw ArquivoRecusado{};
     const double unidade = lerPrefixo(leitor.próxima());
     arquivo.unidade = unidade == 1   ? UnidadeRadial::mmPorHora
                       : unidade == 2 ? UnidadeRadial::mm
@@ -81,6 +89,8 @@ ArquivoRadial lerCabeçalho(LeitorDeLinhas& leitor) {
     return arquivo;
 }
 
+/// Puts the header into its boxes. A number of data that no grid can have stays out: the rows that are read
+/// next come before the refusal that it calls for.
 void mostrarCabeçalho(const ArquivoRadial& arquivo) {
     auto& f = *perfilForm.operator->();
     marcar(perfilForm, arquivo.unidade == UnidadeRadial::mmPorHora ? f.Option5
@@ -93,7 +103,7 @@ void mostrarCabeçalho(const ArquivoRadial& arquivo) {
     definirTexto(f.Text2, arquivo.pressão);
     definirTexto(f.Text8, arquivo.anguloJato);
     definirTexto(f.Text1, arquivo.vazão);
-    definirTexto(f.Text5, arquivo.linhas);
+    if (quantasLinhas(arquivo) <= maiorLadoDaPlanilha) definirTexto(f.Text5, arquivo.linhas);
 }
 
 /// The rest of a file may only be blank lines.
@@ -103,39 +113,45 @@ bool temMaisDados(LeitorDeLinhas& leitor) {
     return false;
 }
 
-std::vector<PontoMedido> lerPontos(LeitorDeLinhas& leitor, int quantos) {
+PontoMedido lerPonto(const std::string& linha) {
+    const auto colunas = separarColunas(linha);
+    if (colunas.size() > 2) throw ArquivoRecusado{"A arquivo *.TXT apresenta mais de duas colunas!"};
+    if (colunas.size() < 2)
+        throw ArquivoRecusado{
+            "O número de colunas do arquivo não coicide com o número de colunas especificado!"};
+    if (!éNumérico(colunas[0]))
+        throw ArquivoRecusado{"Há valores não numéricos nos dados de distância ao aspersor!"};
+    if (!éNumérico(colunas[1])) throw ArquivoRecusado{"Há valores não numéricos nos dados de precipitação!"};
+    return {lerEstrito(colunas[0]), lerEstrito(colunas[1])};
+}
+
+/// The rows of data, as many as the header tells. Each is checked before their number is.
+std::vector<PontoMedido> lerPontos(LeitorDeLinhas& leitor, double quantos) {
+    const auto esperados = static_cast<std::size_t>(std::min<double>(quantos, maiorLadoDaPlanilha));
     std::vector<PontoMedido> pontos;
-    for (int l = 0; l < quantos; ++l) {
-        const auto colunas = separarColunas(leitor.próxima());
-        if (colunas.size() > 2) throw ArquivoRecusado{"A arquivo *.TXT apresenta mais de duas colunas!"};
-        if (colunas.size() < 2)
-            throw ArquivoRecusado{
-                "O número de colunas do arquivo não coicide com o número de colunas especificado!"};
-        if (!éNumérico(colunas[0]))
-            throw ArquivoRecusado{"Há valores não numéricos nos dados de distância ao aspersor!"};
-        if (!éNumérico(colunas[1]))
-            throw ArquivoRecusado{"Há valores não numéricos nos dados de precipitação!"};
-        const PontoMedido ponto{lerEstrito(colunas[0]), lerEstrito(colunas[1])};
+    while (pontos.size() < esperados && !leitor.fim()) {
+        const auto ponto = lerPonto(leitor.próxima());
         if (!pontos.empty() && ponto.r <= pontos.back().r) throw ArquivoRecusado{foraDeOrdem};
         pontos.push_back(ponto);
     }
-    if (temMaisDados(leitor)) throw ArquivoRecusado{"O arquivo é muito grande!"};
+    if (quantos > maiorLadoDaPlanilha || temMaisDados(leitor))
+        throw ArquivoRecusado{"O arquivo é muito grande!"};
+    if (pontos.size() < esperados) throw ArquivoRecusado{};
     return pontos;
 }
 
 void lerArquivo(const std::string& caminho) {
     LeitorDeLinhas leitor{caminho};
     const auto arquivo = lerCabeçalho(leitor);
-    auto& grade = perfilForm->flexGrid;
-    if (lerEstrito(arquivo.linhas) > maisLinhasDoEnsaio) throw ArquivoRecusado{"O arquivo é muito grande!"};
-    if (paraInteiro(lerEstrito(arquivo.linhas)) < 1) throw ArquivoRecusado{};
     mostrarCabeçalho(arquivo);
-    const auto pontos = lerPontos(leitor, grade.linhas - 1);
+    const auto pontos = lerPontos(leitor, quantasLinhas(arquivo));
+    auto& f = *perfilForm.operator->();
     for (std::size_t k = 0; k < pontos.size(); ++k) {
         const int linha = static_cast<int>(k) + 1;
-        grade.escrever(linha, 1, Format(pontos[k].r, "0.00"));
-        grade.escrever(linha, 2, Format(pontos[k].i, "0.000"));
+        f.flexGrid.escrever(linha, 1, Format(pontos[k].r, "0.00"));
+        f.flexGrid.escrever(linha, 2, Format(pontos[k].i, "0.000"));
     }
+    f.recolhidas.clear();
     perfilForm_flexGrid_Change();
 }
 
@@ -160,23 +176,24 @@ std::vector<std::array<std::string, 2>> pontosDaGrade(const Grade& grade) {
     return pontos;
 }
 
-const char* recusaAoSalvar(const Grade& flexGrid) {
+RecusaDeCélula recusaAoSalvar(const Grade& flexGrid) {
     constexpr const char* nãoNumérico = "Insira valores numéricos!";
     for (int l = 1; l < flexGrid.linhas; ++l) {
         const auto& r = flexGrid.célula(l, 1);
-        if (!éNumérico(r)) return nãoNumérico;
-        if (l > 1 && lerEstrito(r) <= lerEstrito(flexGrid.célula(l - 1, 1))) return foraDeOrdem;
-        if (!éNumérico(flexGrid.célula(l, 2))) return nãoNumérico;
+        if (!éNumérico(r)) return {nãoNumérico, l, 1};
+        if (l > 1 && lerEstrito(r) <= lerEstrito(flexGrid.célula(l - 1, 1))) return {foraDeOrdem, l, 1};
+        if (!éNumérico(flexGrid.célula(l, 2))) return {nãoNumérico, l, 2};
     }
-    return nullptr;
+    return {};
 }
 
-const char* recusaNaSegundaPassagem(const Grade& flexGrid) {
+RecusaDeCélula recusaNaSegundaPassagem(const Grade& flexGrid) {
     constexpr std::array verificações = {VerificaçãoDeTexto{nãoÉNumérico, "Insira um valores numéricos!"}};
-    return primeiraRecusa(verificações, flexGrid).mensagem;
+    return primeiraRecusa(verificações, flexGrid);
 }
 
 std::optional<std::string> textoDoArquivoRadial() {
+    sairDaCélula(perfilForm_planilha());
     const auto& f = *perfilForm.operator->();
     if (!éNumérico(f.Text5.texto)) {
         plataforma::mensagem("Informe o número de linhas da planilha!");
@@ -184,9 +201,9 @@ std::optional<std::string> textoDoArquivoRadial() {
         return std::nullopt;
     }
     if (!camposDaUnidadeSalváveis()) return std::nullopt;
-    for (const auto recusa : {recusaAoSalvar, recusaNaSegundaPassagem})
-        if (const char* mensagem = recusa(f.flexGrid)) {
-            plataforma::mensagem(mensagem);
+    for (const auto conferir : {recusaAoSalvar, recusaNaSegundaPassagem})
+        if (const auto recusa = conferir(f.flexGrid); recusa.mensagem) {
+            recusar(perfilForm_planilha(), recusa);
             return std::nullopt;
         }
     return textoDoArquivo({.nome = f.Text7.texto,

@@ -3,6 +3,7 @@
 #include "aspersor/perfil.h"
 #include "aspersor/perfil_form.h"
 #include "comum/arquivos_de_dados.h"
+#include "comum/erro_execucao.h"
 #include "comum/numeros.h"
 #include "comum/operacoes.h"
 #include "comum/plataforma.h"
@@ -102,6 +103,7 @@ RecusaDeCélula recusaDoEnsaio(const Grade& flexGrid) {
 }
 
 std::optional<PerfilMedido> avançarPerfilForm() {
+    sairDaCélula(perfilForm_planilha());
     if (!camposDaUnidadeVálidos() || !ânguloVálido()) return std::nullopt;
     if (const auto recusa = recusaDoEnsaio(perfilForm->flexGrid); recusa.mensagem) {
         recusar(perfilForm_planilha(), recusa);
@@ -140,11 +142,13 @@ void escreverPontos(const PerfilMedido& medido, std::string_view padrãoDoRaio, 
         lblRaio[k].texto = Format(medido.R * medido.distâncias[k], padrãoDoRaio);
         lblIntensidade[k].texto = Format(medido.Imedia * medido.razões[k], "##0.000");
     }
-    desenharPerfilRadial(gráfico, {.x = medido.distâncias,
-                                   .y = medido.razões,
-                                   .R = medido.R,
-                                   .alcanceMostrado = lerPrefixo(Format(medido.R, "##0.00")),
-                                   .Imedia = medido.Imedia});
+    explicarErro("as intensidades são pequenas ou grandes demais para a escala do gráfico", [&] {
+        desenharPerfilRadial(gráfico, {.x = medido.distâncias,
+                                       .y = medido.razões,
+                                       .R = medido.R,
+                                       .alcanceMostrado = lerPrefixo(Format(medido.R, "##0.00")),
+                                       .Imedia = medido.Imedia});
+    });
 }
 
 void mostrarNoPerfil(const PerfilMedido& medido, const DadosDoAspersor& dados) {

@@ -8,7 +8,9 @@
 #include "comum/arquivos_de_dados.h"
 #include "comum/numeros.h"
 #include "comum/operacoes.h"
-#include "comum/plataforma.h"
+#include "comum/verificacoes.h"
+
+#include <algorithm>
 
 namespace varenta {
 namespace {
@@ -24,9 +26,28 @@ void escolherUnidade(const char* cabeçalho, bool comTempo, bool comDiâmetro) {
     nomearCélula(perfilForm_planilha());
 }
 
+/// The entry line is in sight while the grid is typed into; the number of data is only free then, too.
 void mostrarEntrada(bool mostrada) {
     auto& f = *perfilForm.operator->();
-    f.Text6.visivel = f.Label6.visivel = f.Label7.visivel = mostrada;
+    f.Text6.visivel = f.Label6.visivel = f.Label7.visivel = f.Text5.habilitado = mostrada;
+}
+
+/// Gives the grid so many rows of data. "12" becomes "13" by way of "1": rows that go are kept until the
+/// number grows again.
+void mudarNúmeroDeDados(int dados) {
+    auto& f = *perfilForm.operator->();
+    auto pontos = pontosDaGrade(f.flexGrid);
+    pontos.insert(pontos.end(), f.recolhidas.begin(), f.recolhidas.end());
+    pontos.resize(std::max(pontos.size(), static_cast<std::size_t>(dados)));
+    const auto primeiraRecolhida = pontos.begin() + dados;
+    f.recolhidas.assign(primeiraRecolhida, pontos.end());
+    dimensionar(perfilForm_planilha(), dados + 1, f.flexGrid.colunas);
+    for (int l = 1; l <= dados; ++l) {
+        const auto& [r, leitura] = pontos[static_cast<std::size_t>(l - 1)];
+        f.flexGrid.escrever(l, 0, std::to_string(l));
+        f.flexGrid.escrever(l, 1, r);
+        f.flexGrid.escrever(l, 2, leitura);
+    }
 }
 
 /// The distances that the grid holds so far.
@@ -51,7 +72,7 @@ Planilha perfilForm_planilha() {
             .entrada = f.Text6,
             .nomeDaCélula = f.Label6,
             .contagem = &f.Text5,
-            .digitação = !f.Option2.marcada,
+            .digitação = f.Text6.visivel,
             .padrãoDaColuna = [](int coluna) -> std::string_view { return coluna == 1 ? "0.00" : "0.000"; },
             .aoMudar = perfilForm_flexGrid_Change};
 }
@@ -78,31 +99,34 @@ void perfilForm_Option3_Click() {
 }
 
 void perfilForm_Option1_Click() {
+    sairDaCélula(perfilForm_planilha());
     mostrarEntrada(true);
     perfilForm.ponteiro = Ponteiro::padrão;
     entrarNaCélula(perfilForm_planilha());
 }
 
 void perfilForm_Option2_Click() {
-    if (abrirArquivoRadial())
-        mostrarEntrada(false);
-    else
-        marcar(perfilForm, perfilForm->Option1);
+    sairDaCélula(perfilForm_planilha());
+    mostrarEntrada(false);
+    if (abrirArquivoRadial()) return;
+    marcar(perfilForm, perfilForm->Option1);
+    focar(perfilForm->Option1);
 }
 
 void perfilForm_Text5_Change() {
     auto& f = *perfilForm.operator->();
     if (!éNumérico(f.Text5.texto)) return;
-    const int dados = paraInteiro(lerEstrito(f.Text5.texto));
-    if (dados <= 0) {
-        plataforma::mensagem("O valor deve ser maior que zero!");
-        definirTexto(f.Text5, "");
-        focar(f.Text5);
+    const double pedidos = lerEstrito(f.Text5.texto);
+    if (const auto recusa = recusaDoTamanho(pedidos, f.flexGrid.colunas - 1); !recusa.empty()) {
+        recusar(f.Text5, recusa.c_str());
         return;
     }
-    // The header row comes on top; a count that leaves no room for it asks for too much anyway.
-    dimensionar(perfilForm_planilha(), dados < maisCélulas ? dados + 1 : dados, f.flexGrid.colunas);
-    for (int l = 1; l < f.flexGrid.linhas; ++l) f.flexGrid.escrever(l, 0, std::to_string(l));
+    if (pedidos <= 0 || paraInteiro(pedidos) == 0) {
+        recusar(f.Text5, "O valor deve ser maior que zero!");
+        return;
+    }
+    sairDaCélula(perfilForm_planilha());
+    mudarNúmeroDeDados(paraInteiro(pedidos));
     nomearCélula(perfilForm_planilha());
     perfilForm_flexGrid_Change();
 }
@@ -112,6 +136,7 @@ bool perfilForm_Text6_KeyPress(int tecla) { return teclar(perfilForm_planilha(),
 void perfilForm_Command1_Click() {
     auto& f = *perfilForm.operator->();
     esvaziarDados(f.flexGrid);
+    f.recolhidas.clear();
     perfilForm_flexGrid_Change();
     for (auto* caixa : {&f.Text7, &f.Text9, &f.Text1, &f.Text2, &f.Text4, &f.Text3, &f.Text8, &f.Text6})
         definirTexto(*caixa, "");

@@ -4,6 +4,10 @@
 #include "comum/planilha.h"
 #include "comum/tela.h"
 
+#include <array>
+#include <string>
+#include <vector>
+
 namespace varenta {
 
 void perfilForm_Load();
@@ -54,6 +58,10 @@ struct RegistroPerfilForm {
                    .células = std::vector<std::string>(6),
                    .alinhamentos = std::vector<Alinhamento>(3, Alinhamento::centro),
                    .planilha = perfilForm_planilha};
+
+    /// The rows that a smaller number of data has taken off the grid's end: they come back when it grows
+    /// again.
+    std::vector<std::array<std::string, 2>> recolhidas;
 
     Rotulo lblPreenchidas;
     /// How the collectors stand: the sprinkler at the left, a collector at each distance.

@@ -10,6 +10,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 
 namespace varenta {
 namespace {
@@ -38,16 +39,13 @@ std::string próximaNumérica(LeitorDeLinhas& leitor) {
     return linha;
 }
 
-/// A value for a list picks the item with that number, and otherwise stands as text.
+/// A value for a list is the item with that number, and otherwise stands as text. The grid is made when all
+/// four lists have theirs: on the way it might be asked for a size that neither the old nor the new ones
+/// have.
 void definirLista(Lista& lista, const std::string& valor) {
     const auto item = std::ranges::find(lista.itens, lerEstrito(valor),
                                         [](const auto& texto) { return lerEstrito(texto); });
-    if (item != lista.itens.end()) {
-        escolherItem(lista, *item);
-        return;
-    }
-    definirTexto(lista, valor);
-    gerarPlanilhaEC();
+    lista.texto = item == lista.itens.end() ? valor : *item;
 }
 
 void lerUnidade(LeitorDeLinhas& leitor) {
@@ -64,11 +62,14 @@ void lerCabeçalho(LeitorDeLinhas& leitor) {
         definirTexto(*caixa, leitor.próxima());
     for (auto* lista : {&f.Combo1, &f.Combo2, &f.Combo3, &f.Combo4})
         definirLista(*lista, próximaNumérica(leitor));
+    const double linhas = lerEstrito(f.Combo1.texto), coletores = lerEstrito(f.Combo3.texto);
+    if (!recusaDoTamanho(2 * coletores, linhas).empty()) throw ArquivoRecusado{};
     definirTexto(f.Text2, leitor.próxima());
     definirTexto(f.Text3, leitor.próxima());
     lerUnidade(leitor);
-    if (const char* recusa = recusaDosColetores(lerEstrito(f.Combo4.texto), lerEstrito(f.Combo3.texto)))
+    if (const char* recusa = recusaDosColetores(lerEstrito(f.Combo4.texto), coletores))
         throw ArquivoRecusado{recusa};
+    if (std::nearbyint(linhas) < 1 || std::nearbyint(coletores) < 1) throw ArquivoRecusado{};
 }
 
 void lerLeituras(LeitorDeLinhas& leitor) {
@@ -83,18 +84,9 @@ void lerLeituras(LeitorDeLinhas& leitor) {
         if (!leitor.próxima().empty()) throw ArquivoRecusado{};
 }
 
-/// Without a grid that its lists ask for, a file's readings have no place.
-void exigirGrade() {
-    const auto& f = *formEC.operator->();
-    if (paraInteiro(lerEstrito(f.Combo1.texto)) + 1 != f.flex_A.colunas ||
-        2 * paraInteiro(lerEstrito(f.Combo3.texto)) + 1 != f.flex_A.linhas)
-        throw ArquivoRecusado{};
-}
-
 void lerArquivo(const std::string& caminho) {
     LeitorDeLinhas leitor{caminho};
     lerCabeçalho(leitor);
-    exigirGrade();
     esvaziarDados(formEC->flex_A);
     try {
         lerLeituras(leitor);

@@ -3,6 +3,7 @@
 #include "aspersor/desenho_coletores.h"
 
 #include <algorithm>
+#include <cstdint>
 #include <limits>
 
 namespace varenta {
@@ -36,10 +37,14 @@ void desenharEnsaioMóvel(Desenho& desenho, const ArranjoDoEnsaio& arranjo) {
     // Spacings that are no lengths yet leave the lane alone.
     if (arranjo.espaço <= 0 || arranjo.distância <= 0) return;
     const double pixels = escala(arranjo);
+    // More collectors would only be a bar, and cost the memory of their strokes.
+    constexpr int maisColetores = 10'000;
+    const bool distinguíveis = std::int64_t{arranjo.linhas} * arranjo.coletores <= maisColetores;
     for (int k = 0; k < arranjo.linhas; ++k) {
         const double y = meio + (k - (arranjo.linhas - 1) / 2.0) * arranjo.distância * pixels;
         const double alcance = (arranjo.coletores - 0.5) * arranjo.espaço * pixels;
         desenho.linha(centro - alcance, y, centro + alcance, y, cores::preto);
+        if (!distinguíveis) continue;
         for (int j = 1; j <= arranjo.coletores; ++j) {
             const double x = (j - 0.5) * arranjo.espaço * pixels;
             desenharColetor(desenho, centro - x, y);

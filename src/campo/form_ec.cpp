@@ -9,9 +9,9 @@
 #include "campo/verificacoes_ec.h"
 #include "comum/ajuda.h"
 #include "comum/arquivos_de_dados.h"
-#include "comum/erro_execucao.h"
 #include "comum/numeros.h"
 #include "comum/operacoes.h"
+#include "comum/plataforma.h"
 
 namespace varenta {
 namespace {
@@ -34,9 +34,11 @@ void escreverCabeçalhos(int linhas, int coletores, double espaço) {
     }
 }
 
+/// The entry line is in sight while the grid is typed into; the lists are only free then, too.
 void mostrarEntrada(bool mostrada) {
     auto& f = *formEC.operator->();
     f.Text5.visivel = f.Label6.visivel = f.Label7.visivel = mostrada;
+    for (auto* lista : {&f.Combo1, &f.Combo2, &f.Combo3, &f.Combo4}) lista->habilitado = mostrada;
 }
 
 } // namespace
@@ -47,7 +49,7 @@ Planilha formEC_planilha() {
             .entrada = f.Text5,
             .nomeDaCélula = f.Label6,
             .contagem = nullptr,
-            .digitação = !f.Option2.marcada,
+            .digitação = f.Text5.visivel,
             .padrãoDaColuna = [](int) -> std::string_view { return "0.000"; },
             .aoMudar = formEC_flex_A_Change};
 }
@@ -56,11 +58,16 @@ void formEC_flex_A_Change() { formEC->lblPreenchidas.texto = textoDePreenchidas(
 
 void gerarPlanilhaEC() {
     auto& f = *formEC.operator->();
-    const int linhas = paraInteiro(lerPrefixo(f.Combo1.texto));
-    const int coletores = paraInteiro(lerPrefixo(f.Combo3.texto));
-    if (linhas < 1 || coletores < 1) return;
-    if (linhas > maisCélulas || coletores > maisCélulas) throw ErroExecucao{memóriaInsuficiente};
     const auto planilha = formEC_planilha();
+    sairDaCélula(planilha);
+    const double linhasPedidas = lerPrefixo(f.Combo1.texto), coletoresPedidos = lerPrefixo(f.Combo3.texto);
+    if (linhasPedidas <= 0 || coletoresPedidos <= 0) return;
+    if (const auto recusa = recusaDoTamanho(2 * coletoresPedidos, linhasPedidas); !recusa.empty()) {
+        plataforma::mensagem(recusa);
+        return;
+    }
+    const int linhas = paraInteiro(linhasPedidas), coletores = paraInteiro(coletoresPedidos);
+    if (linhas < 1 || coletores < 1) return;
     if (f.flex_A.linhas != 2 * coletores + 1 || f.flex_A.colunas != linhas + 1) {
         dimensionar(planilha, 2 * coletores + 1, linhas + 1);
         esvaziarDados(f.flex_A);
@@ -94,20 +101,23 @@ void formEC_Fechar() {
 }
 
 void formEC_Option1_Click() {
+    sairDaCélula(formEC_planilha());
     mostrarEntrada(true);
     entrarNaCélula(formEC_planilha());
 }
 
 void formEC_Option2_Click() {
-    if (abrirArquivoMóvel())
-        mostrarEntrada(false);
-    else
-        marcar(formEC, formEC->Option1);
+    sairDaCélula(formEC_planilha());
+    mostrarEntrada(false);
+    if (abrirArquivoMóvel()) return;
+    marcar(formEC, formEC->Option1);
+    focar(formEC->Option1);
 }
 
 bool formEC_Text5_KeyPress(int tecla) { return teclar(formEC_planilha(), tecla); }
 
 void formEC_Command1_Click() {
+    sairDaCélula(formEC_planilha());
     if (podeSalvarEnsaio()) salvarArquivoDeDados(textoDoEnsaio(), falhaAoSalvarDados);
 }
 
@@ -121,6 +131,7 @@ void formEC_Command2_Click() {
 }
 
 void formEC_Command4_Click() {
+    sairDaCélula(formEC_planilha());
     if (!podeSobrepor()) return;
     prepararSobreposicao();
     formEC.esconder();
@@ -128,6 +139,7 @@ void formEC_Command4_Click() {
 }
 
 void formEC_Command6_Click() {
+    sairDaCélula(formEC_planilha());
     if (podeGerarPerfil()) perfilRadialDoMovel();
 }
 

@@ -21,7 +21,8 @@ Planilha formEC_planilha();
 void formEC_flex_A_Change();
 
 /// Gives the grid of readings the size and the headers that the lists and the unit ask for, and draws how the
-/// collectors stand. Another size begins with empty cells. While the lists hold no numbers the grid stays.
+/// collectors stand. Another size begins with empty cells. While the lists hold no numbers the grid stays,
+/// and so it does after the message that refuses a size.
 void gerarPlanilhaEC();
 
 /// A field test of a travelling sprinkler: lines of collectors across its lane, read after it has passed.

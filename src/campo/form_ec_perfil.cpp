@@ -24,6 +24,7 @@ bool vazãoAceita(double somaV) {
     }
     if (const char* recusa = primeiraRecusa(verificaçõesDaVazãoDoEnsaio, f.Text12.texto)) {
         plataforma::mensagem(recusa);
+        focar(f.Text12);
         return false;
     }
     if (!vazãoDiverge(somaV / 1000, lerEstrito(f.Text12.texto))) return true;

@@ -5,24 +5,35 @@
 #include "comum/ajuda.h"
 #include "comum/numeros.h"
 #include "comum/operacoes.h"
+#include "comum/planilha.h"
 #include "comum/plataforma.h"
 #include "uniformidade/graficos_sobreposicao.h"
 #include "uniformidade/relatorios.h"
 
+#include <cmath>
+
 namespace varenta {
 namespace {
 
+double espaçamentoEscolhido() { return lerPrefixo(formUnifo->cmbEspaçamento.texto); }
+
+/// Whether positions fit between two lanes, and a table can hold them.
+bool temPosições(double E) {
+    const auto& flex_A = formEC->flex_A;
+    const double posições = std::nearbyint(dividir(E, lerPrefixo(formEC->Combo4.texto)));
+    return posições >= 1 && recusaDoTamanho(posições, flex_A.colunas).empty();
+}
+
 /// Whether the spacing can be overlapped. One that isn't a multiple of six changes nothing.
 bool espaçamentoAceito() {
-    auto& lista = formUnifo->cmbEspaçamento;
-    const int E = paraInteiro(lerPrefixo(lista.texto));
-    if (E % 6 != 0) {
+    const double E = espaçamentoEscolhido();
+    if (std::fmod(std::nearbyint(E), 6) != 0) {
         plataforma::mensagem("O espaçamento deve ser múltiplo de seis!");
         return false;
     }
-    if (lerPrefixo(lista.texto) != 0) return true;
+    if (temPosições(E)) return true;
     plataforma::mensagem("Valor de espaçamento inválido!");
-    escolherItem(lista, 0);
+    escolherItem(formUnifo->cmbEspaçamento, 0);
     return false;
 }
 
@@ -46,7 +57,7 @@ void formUnifo_Command2_Click() {
 void formUnifo_cmdCUC_Click() {
     if (!espaçamentoAceito()) return;
     sobreporMovel();
-    formUnifo->Caption = "Sobreposição para o Espaçamento: " + formUnifo->cmbEspaçamento.texto + " m";
+    formUnifo->Caption = "Sobreposição para o Espaçamento: " + paraTexto(espaçamentoEscolhido()) + " m";
 }
 
 void formUnifo_cmdSalvar_Click() { salvarRelatório(relatórioDoMóvel()); }

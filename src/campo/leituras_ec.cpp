@@ -2,6 +2,7 @@
 
 #include "aspersor/perfil_medido.h"
 #include "campo/form_ec.h"
+#include "comum/erro_execucao.h"
 #include "comum/numeros.h"
 
 namespace varenta {
@@ -17,7 +18,9 @@ LeiturasDoEnsaio lerEnsaio() {
     const int coletores = (grade.linhas - 1) / 2;
     const auto lâmina = [&](int linha, int coluna) {
         const double leitura = lerEstrito(grade.célula(linha, coluna));
-        return f.Option3.marcada ? lâminaDoVolume(leitura, lerPrefixo(f.Text7.texto)) : leitura;
+        if (!f.Option3.marcada) return leitura;
+        return explicarErro("confira o diâmetro do coletor e os volumes",
+                            [&] { return lâminaDoVolume(leitura, lerPrefixo(f.Text7.texto)); });
     };
     LeiturasDoEnsaio ensaio{lerPrefixo(f.Combo4.texto), {}, static_cast<std::size_t>(coletores)};
     for (int k = 1; k < grade.colunas; ++k) {

@@ -4,6 +4,7 @@
 #include "campo/form_ec.h"
 #include "campo/form_unifo.h"
 #include "comum/arquivos_de_dados.h"
+#include "comum/erro_execucao.h"
 #include "comum/numeros.h"
 #include "comum/operacoes.h"
 #include "uniformidade/graficos_sobreposicao.h"
@@ -11,6 +12,7 @@
 #include "uniformidade/uniformidade_centro.h"
 
 #include <algorithm>
+#include <array>
 
 namespace varenta {
 namespace {
@@ -50,14 +52,19 @@ void escreverDetalhe(const SobreposiçãoMedida& soma, double espaço) {
     }
 }
 
-/// Every line of collectors in green, their mean over them in blue.
+/// The lines of collectors in three colours by turns, so that neighbours differ, and their mean over them in
+/// blue.
 void desenharDetalhe(const SobreposiçãoMedida& soma, double espaço) {
     auto& f = *formUnifo.operator->();
     std::vector<CurvaDaSobreposição> curvas;
-    for (const auto& linha : soma.linhas) curvas.push_back({linha, cores::verde});
+    constexpr std::array coresDasLinhas = {cores::verde, cores::vermelho, cores::magenta};
+    for (const auto& linha : soma.linhas)
+        curvas.push_back({linha, coresDasLinhas[curvas.size() % coresDasLinhas.size()]});
     curvas.push_back({soma.média, cores::azul});
-    desenharSobreposição(f.Picture1, f.Label22, f.Label23, espaço, *std::ranges::max_element(soma.valores),
-                         curvas);
+    explicarErro("as lâminas são pequenas ou grandes demais para a escala do gráfico", [&] {
+        desenharSobreposição(f.Picture1, f.Label22, f.Label23, espaço,
+                             *std::ranges::max_element(soma.valores), curvas);
+    });
 }
 
 } // namespace

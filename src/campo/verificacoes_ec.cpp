@@ -1,6 +1,7 @@
 #include "campo/verificacoes_ec.h"
 
 #include "campo/form_ec.h"
+#include "campo/sobreposicao_movel.h"
 #include "comum/numeros.h"
 #include "comum/operacoes.h"
 #include "comum/plataforma.h"
@@ -8,6 +9,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 #include <span>
 
 namespace varenta {
@@ -46,12 +48,12 @@ bool dentro(const CaixaTexto& caixa, double maior, const char* mensagem) {
     return (valor >= 0 && valor <= maior) || acusar(caixa, mensagem);
 }
 
-/// The wind may stay empty, but not one half of it alone.
+/// The wind may stay empty, but not one half of it alone. The direction is looked at first.
 bool ventoVálido() {
     const auto& f = *formEC.operator->();
     if (f.Text2.texto.empty() && f.Text3.texto.empty()) return true;
-    return numérico(f.Text2, "Insira um valor numérico de velocidade do vento!") &&
-           numérico(f.Text3, "Insira um valor numérico de direção do vento!") &&
+    return numérico(f.Text3, "Insira um valor numérico de direção do vento!") &&
+           numérico(f.Text2, "Insira um valor numérico de velocidade do vento!") &&
            dentro(f.Text2, 10, "O valor de velocidade do vento deve estar entre 0 - 10 m/s!") &&
            dentro(f.Text3, 360, "O valor de direção do vento deve estar entre 0 - 360º!");
 }
@@ -61,11 +63,22 @@ bool listaVálida(const Lista& lista, const char* mensagem) {
     return (éNumérico(lista.texto) && lerEstrito(lista.texto) > 0) || acusar(lista, mensagem);
 }
 
+/// A list may show another number than the one that made the grid, where that was refused or is none.
+bool fezAPlanilha(const Lista& lista, int naPlanilha, const char* mensagem) {
+    const bool fez = éNumérico(lista.texto) && std::nearbyint(lerEstrito(lista.texto)) == naPlanilha;
+    return fez || acusar(lista, mensagem);
+}
+
+bool contagensVálidas() {
+    const auto& f = *formEC.operator->();
+    return fezAPlanilha(f.Combo1, f.flex_A.colunas - 1, "Número de linhas de coletores inválido!") &&
+           fezAPlanilha(f.Combo3, (f.flex_A.linhas - 1) / 2,
+                        "Número de coletores em cada lada linha inválido!");
+}
+
 bool listasVálidas() {
     const auto& f = *formEC.operator->();
-    return listaVálida(f.Combo1, "Número de linhas de coletores inválido!") &&
-           listaVálida(f.Combo3, "Número de coletores em cada lada linha inválido!") &&
-           listaVálida(f.Combo2, "Distância entre as linhas de coletores inválida!") &&
+    return contagensVálidas() && listaVálida(f.Combo2, "Distância entre as linhas de coletores inválida!") &&
            listaVálida(f.Combo4, "Espaço entre coletores inválido!");
 }
 
@@ -82,8 +95,15 @@ bool ensaioVálido(std::span<const double> espaços, const char* recusaDoEspaço
         return recusar(f.Text7, "Diâmetro do coletor com valor numérico inválido!");
     if (std::ranges::find(espaços, lerPrefixo(f.Combo4.texto)) == espaços.end())
         return acusar(f.Combo4, recusaDoEspaço);
-    return célulasVálidas({éVazio, "Há alguma célula da planilha vazia!"}) &&
+    return contagensVálidas() && célulasVálidas({éVazio, "Há alguma célula da planilha vazia!"}) &&
            célulasVálidas({nãoÉNumérico, "Insira valores numéricos!"});
+}
+
+/// A test narrower than the smallest spacing has none to be overlapped at.
+bool larguraSuficiente() {
+    const auto& f = *formEC.operator->();
+    return !espaçamentosParaLargura((f.flex_A.linhas - 1) * lerPrefixo(f.Combo4.texto)).empty() ||
+           acusar(f.Combo3, "A largura molhada do ensaio deve ser de 6 m ou mais!");
 }
 
 } // namespace
@@ -96,7 +116,7 @@ bool podeSalvarEnsaio() {
 bool podeSobrepor() {
     constexpr std::array espaços = {2.0, 3.0, 6.0};
     return ensaioVálido(espaços, "O espaçamento entre coletores deve ser 2, 3 ou 6 m!") && vazãoNumérica() &&
-           velocidadeNumérica();
+           velocidadeNumérica() && larguraSuficiente();
 }
 
 bool podeGerarPerfil() {

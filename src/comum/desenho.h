@@ -21,7 +21,8 @@ inline constexpr Cor vermelho = corDe(255, 0, 0);
 inline constexpr Cor verde = corDe(0, 255, 0);
 inline constexpr Cor azul = corDe(0, 0, 255);
 inline constexpr Cor amarelo = corDe(255, 255, 0);
-/// Colour 9 of the 16-colour palette.
+/// Colours 5 and 9 of the 16-colour palette.
+inline constexpr Cor magenta = corDe(170, 0, 170);
 inline constexpr Cor azulClaro = corDe(85, 85, 255);
 } // namespace cores
 

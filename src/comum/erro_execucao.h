@@ -24,6 +24,17 @@ inline constexpr const char* memóriaInsuficiente = "Memória insuficiente";
 /// Raises "Índice fora dos limites" unless the index at hand lies within its limits.
 void exigirÍndice(bool dentroDosLimites);
 
+/// Runs `operação`. A run-time error that it raises is told by its name and, after a colon, by what it means
+/// there.
+template <class Operação>
+decltype(auto) explicarErro(const char* explicação, Operação&& operação) {
+    try {
+        return operação();
+    } catch (const ErroExecucao& e) {
+        throw ErroExecucao{std::string{e.what()}.append(": ").append(explicação)};
+    }
+}
+
 /// The element `índice` of `sequência`. Raises "Índice fora dos limites" where there is none.
 template <class Sequência>
 auto& elemento(Sequência& sequência, std::size_t índice) {

@@ -1,5 +1,6 @@
 #include "comum/planilha.h"
 
+#include "comum/limites.h"
 #include "comum/numeros.h"
 #include "comum/operacoes.h"
 #include "comum/plataforma.h"
@@ -87,6 +88,15 @@ void dimensionar(const Planilha& planilha, int linhas, int colunas) {
     const int linha = grade.linhaAtual, coluna = grade.colunaAtual;
     grade.dimensionar(linhas, colunas);
     if (grade.linhaAtual != linha || grade.colunaAtual != coluna) entrarNaCélula(planilha);
+}
+
+std::string recusaDoTamanho(double linhas, double colunas) {
+    constexpr double lado = maiorLadoDaPlanilha;
+    if (linhas <= lado && colunas <= lado && linhas * colunas <= static_cast<double>(maisCélulasDaPlanilha))
+        return {};
+    const auto máximo = std::to_string(maiorLadoDaPlanilha);
+    return "A planilha pode ter no máximo " + máximo + " linhas, " + máximo + " colunas e " +
+           std::to_string(maisCélulasDaPlanilha) + " células!";
 }
 
 void esvaziarDados(Grade& grade) {

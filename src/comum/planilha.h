@@ -19,7 +19,8 @@ struct Planilha {
     Rotulo& nomeDaCélula;
     /// The box with the number of data rows, where the screen has one: entries wait until it is numeric.
     CaixaTexto* contagem;
-    /// Typing mode. Off while the grid shows a file that was loaded: it takes no entry then.
+    /// Typing mode: the entry line is in sight. Off while the grid shows a file that was loaded: it takes no
+    /// entry then.
     bool digitação;
     /// The format in which a data column (from 1) writes its numbers.
     std::string_view (*padrãoDaColuna)(int coluna);
@@ -37,6 +38,10 @@ void sairDaCélula(const Planilha& planilha);
 /// Gives the grid its size. Where the current cell moves with it, the entry line takes the new one's text, so
 /// that nothing of the old one is written there.
 void dimensionar(const Planilha& planilha, int linhas, int colunas);
+
+/// The message that refuses a grid of so many data rows and columns; empty where it may be so large. To be
+/// asked before the numbers that a person typed, or a file holds, are made whole and memory is.
+std::string recusaDoTamanho(double linhas, double colunas);
 
 /// Empties all data cells.
 void esvaziarDados(Grade& grade);

@@ -2,6 +2,7 @@
 
 #include "apoio/ensaios.h"
 #include "apoio/pasta_temporaria.h"
+#include "comum/limites.h"
 
 namespace varenta::teste {
 namespace {
@@ -229,6 +230,64 @@ TEST_F(ArquivoDoEnsaioRadial, MaisLinhasDoQueAPlanilhaTemSãoDemais) {
                       "mensagem: O arquivo é muito grande!");
 }
 
+TEST_F(ArquivoDoEnsaioRadial, AsLinhasSãoConferidasAntesDoSeuNúmero) {
+    const std::string início = "A\r\n20\r\n45\r\n24\r\n4.2\r\n10001\r\n";
+    esperarQueNãoAbre(início + "2\r\nx\r\n" + pontos, não);
+    esperarQueNãoAbre(início + "1\r\n2\t9\t1\r\n",
+                      "mensagem: A arquivo *.TXT apresenta mais de duas colunas!");
+    esperarQueNãoAbre(início + "1\r\n", "mensagem: O arquivo é muito grande!");
+    // The header stands in its boxes by then, but for a number of data that no grid can have.
+    EXPECT_EQ(perfilForm->Text9.texto, "20");
+    EXPECT_EQ(perfilForm->Text5.texto, "3");
+    EXPECT_EQ(perfilForm->flexGrid.linhas, 4);
+}
+
+TEST_F(ArquivoDoEnsaioRadial, UmArquivoDoMaiorTamanhoÉLido) {
+    std::string bytes = "A\n20\n45\n24\n4.2\n10000\n1\n";
+    for (int k = 1; k <= 10000; ++k) bytes += std::to_string(k) + "\t1\n";
+    abrir(bytes);
+    EXPECT_EQ(perfilForm->lblPreenchidas.texto, "Células preenchidas: 20000 de 20000");
+    EXPECT_EQ(perfilForm->flexGrid.célula(10000, 1), "10000.00");
+}
+
+TEST_F(ArquivoDoEnsaioRadial, UmaLinhaLongaDemaisÉRecusada) {
+    esperarQueNãoAbre(std::string(maiorLinha + 1, 'A') + "\r\n20\r\n45\r\n24\r\n4.2\r\n3\r\n1\r\n" + pontos,
+                      não);
+    EXPECT_EQ(perfilForm->Text7.texto, "");
+}
+
+TEST_F(ArquivoDoEnsaioRadial, UmArquivoRecusadoNasLinhasDeixaAsLeiturasDeAntes) {
+    esperarQueNãoAbre("Outro\r\n20\r\n45\r\n24\r\n4.2\r\n2\r\n1\r\n2\t9\r\nx\t5\r\n",
+                      "mensagem: Há valores não numéricos nos dados de distância ao aspersor!");
+    EXPECT_EQ(perfilForm->Text7.texto, "Outro");
+    EXPECT_EQ(perfilForm->Text5.texto, "2");
+    EXPECT_EQ(perfilForm->flexGrid.linhas, 3);
+    EXPECT_EQ(perfilForm->flexGrid.célula(2, 1), "10.00");
+    // The third one comes back with its row; after a file that is read it doesn't.
+    digitar(perfilForm, "Text5", "3");
+    EXPECT_EQ(perfilForm->flexGrid.célula(3, 1), "18.00");
+    abrir("A\r\n20\r\n45\r\n24\r\n4.2\r\n2\r\n1\r\n3\t9\r\n6\t5\r\n");
+    clicar(perfilForm, "Option1");
+    digitar(perfilForm, "Text5", "3");
+    EXPECT_EQ(perfilForm->flexGrid.célula(3, 1), "");
+}
+
+TEST_F(ArquivoDoEnsaioRadial, ONúmeroDeDadosSóÉLivreAoDigitar) {
+    abrir(cabeçalho + "1\r\n" + pontos);
+    EXPECT_EQ(recusaDe([] { digitar(perfilForm, "Text5", "1"); }), "PerfilForm.Text5 está desabilitado");
+    clicar(perfilForm, "Option1");
+    digitar(perfilForm, "Text5", "2");
+    EXPECT_EQ(perfilForm->flexGrid.linhas, 3);
+}
+
+TEST_F(ArquivoDoEnsaioRadial, UmArquivoRecusadoLevaADigitar) {
+    esperarQueNãoAbre("", não);
+    EXPECT_EQ(controleComFoco, &perfilForm->Option1);
+    EXPECT_TRUE(perfilForm->Text5.habilitado);
+    EXPECT_EQ(perfilForm->Text6.texto,
+              perfilForm->flexGrid.célula(perfilForm->flexGrid.linhaAtual, perfilForm->flexGrid.colunaAtual));
+}
+
 TEST_F(ArquivoDoEnsaioRadial, MenosLinhasDoQueAnunciadasSãoRecusadas) {
     esperarQueNãoAbre(cabeçalho + "1\r\n2\t9\r\n10\t5\r\n", não);
 }
@@ -275,14 +334,31 @@ TEST_F(ArquivoDoEnsaioRadial, CélulasQueNãoSãoNúmerosNãoSalvam) {
 TEST_F(ArquivoDoEnsaioRadial, DistânciasForaDeOrdemNãoSalvam) {
     preencherEnsaio({{"2", "9"}, {"2", "5"}});
     esperarQueNãoSalva("Os valores de distância ao aspersor devem estar em ordem crescente!");
+    EXPECT_EQ(perfilForm->flexGrid.linhaAtual, 2);
+    EXPECT_EQ(perfilForm->flexGrid.colunaAtual, 1);
+    EXPECT_EQ(controleComFoco, &perfilForm->Text6);
+}
+
+TEST_F(ArquivoDoEnsaioRadial, UmaCélulaRecusadaAoSalvarÉAAtual) {
+    atos::preencherCélula(alvo(perfilForm, "flexGrid"), 2, 2, "x");
+    atos::irParaCélula(alvo(perfilForm, "flexGrid"), 1, 1);
+    esperarQueNãoSalva("Insira valores numéricos!");
+    EXPECT_EQ(perfilForm->Label6.texto, "2 : Intensidade - i (mm/h)");
+    EXPECT_EQ(perfilForm->Text6.texto, "x");
+    EXPECT_EQ(controleComFoco, &perfilForm->Text6);
+    // Mended without an Enter.
+    digitar(perfilForm, "Text6", "5");
+    EXPECT_EQ(salvar(), "Não Especificado\r\nN/E\r\nN/E\r\nN/E\r\nN/E\r\n3\r\n1\r\n" + pontos);
 }
 
 TEST_F(ArquivoDoEnsaioRadial, ASegundaPassagemTemASuaMensagem) {
     // The first look stops at all that the second one would find.
     Grade grade = perfilForm->flexGrid;
-    EXPECT_EQ(recusaNaSegundaPassagem(grade), nullptr);
+    EXPECT_EQ(recusaNaSegundaPassagem(grade).mensagem, nullptr);
     grade.escrever(2, 2, "x");
-    EXPECT_STREQ(recusaNaSegundaPassagem(grade), "Insira um valores numéricos!");
+    const auto recusa = recusaNaSegundaPassagem(grade);
+    EXPECT_STREQ(recusa.mensagem, "Insira um valores numéricos!");
+    EXPECT_EQ(std::pair(recusa.linha, recusa.coluna), std::pair(2, 2));
 }
 
 TEST_F(ArquivoDoEnsaioRadial, CancelarNãoSalva) {

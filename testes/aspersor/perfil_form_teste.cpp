@@ -1,6 +1,7 @@
 #include "aspersor/perfil_form.h"
 
 #include "apoio/ensaios.h"
+#include "aspersor/arquivo_radial.h"
 #include "aspersor/avancar_perfil_form.h"
 
 namespace varenta::teste {
@@ -122,9 +123,83 @@ TEST_F(EnsaioRadial, UmNúmeroDeDadosQueNãoÉPositivoÉRecusado) {
 }
 
 TEST_F(EnsaioRadial, LinhasDemaisSãoRecusadasAntesDaMemória) {
-    digitar(perfilForm, "Text5", "2000000000");
-    EXPECT_EQ(caderno, std::vector<std::string>{"erro: Memória insuficiente"});
-    EXPECT_EQ(perfilForm->flexGrid.linhas, 4);
+    for (const auto* texto : {"10000.6", "5000000", "1e20"}) {
+        caderno.clear();
+        digitar(perfilForm, "Text5", texto);
+        EXPECT_EQ(caderno,
+                  std::vector{mensagem(
+                      "A planilha pode ter no máximo 10000 linhas, 10000 colunas e 2000000 células!")})
+            << texto;
+        EXPECT_EQ(perfilForm->Text5.texto, "");
+        EXPECT_EQ(perfilForm->flexGrid.linhas, 4);
+        EXPECT_EQ(controleComFoco, &perfilForm->Text5);
+    }
+    digitar(perfilForm, "Text5", "10000");
+    EXPECT_EQ(perfilForm->flexGrid.linhas, 10001);
+}
+
+TEST_F(EnsaioRadial, UmNúmeroDeDadosCorrigidoDevolveAsLinhasQueTirou) {
+    // From "3" to "13" key by key: "3", "", "1", "13".
+    digitar(perfilForm, "Text5", "");
+    digitar(perfilForm, "Text5", "1");
+    EXPECT_EQ(perfilForm->flexGrid.linhas, 2);
+    EXPECT_EQ(perfilForm->lblPreenchidas.texto, "Células preenchidas: 2 de 2");
+    digitar(perfilForm, "Text5", "13");
+    EXPECT_EQ(perfilForm->flexGrid.linhas, 14);
+    EXPECT_EQ(célula(2, 1) + " " + célula(2, 2) + " " + célula(3, 1) + " " + célula(3, 2),
+              "10.00 5.000 18.00 1.000");
+    EXPECT_EQ(célula(4, 0) + célula(4, 1) + célula(4, 2), "4");
+    EXPECT_EQ(perfilForm->lblPreenchidas.texto, "Células preenchidas: 6 de 26");
+    // In two steps down and two up.
+    for (const auto* texto : {"2", "1", "2", "3"}) digitar(perfilForm, "Text5", texto);
+    EXPECT_EQ(célula(2, 1) + " " + célula(3, 1), "10.00 18.00");
+    // Only as far as the number has grown.
+    digitar(perfilForm, "Text5", "1");
+    digitar(perfilForm, "Text5", "2");
+    EXPECT_EQ(pontosDaGrade(perfilForm->flexGrid).size(), 2U);
+}
+
+TEST_F(EnsaioRadial, OQueLimparEsvaziaNãoVolta) {
+    digitar(perfilForm, "Text5", "1");
+    clicar(perfilForm, "Command1");
+    digitar(perfilForm, "Text5", "3");
+    EXPECT_EQ(perfilForm->lblPreenchidas.texto, "Células preenchidas: 0 de 6");
+}
+
+// What the entry line holds counts without an Enter.
+
+TEST_F(EnsaioRadial, OQueSeDigitouSemEnterValeAoAvançar) {
+    atos::irParaCélula(alvo(perfilForm, "flexGrid"), 3, 2);
+    digitar(perfilForm, "Text6", "x");
+    esperarRecusa("Insira valores numéricos!");
+    EXPECT_EQ(célula(3, 2), "x");
+    digitar(perfilForm, "Text6", "0");
+    esperarRecusa("O último valor de intensidade de precipitação deve ser diferente de zero!");
+    digitar(perfilForm, "Text6", "1");
+    respostas = {false};
+    avançar();
+    EXPECT_EQ(perfilForm->Text1.texto, "4.189");
+}
+
+TEST_F(EnsaioRadial, OQueSeDigitouSemEnterFicaAoMudarONúmeroDeDados) {
+    atos::irParaCélula(alvo(perfilForm, "flexGrid"), 3, 1);
+    digitar(perfilForm, "Text6", "17.5");
+    digitar(perfilForm, "Text5", "1");
+    digitar(perfilForm, "Text5", "3");
+    EXPECT_EQ(célula(3, 1), "17.50");
+    EXPECT_EQ(perfilForm->Text6.texto, célula(1, 1));
+}
+
+TEST_F(EnsaioRadial, OQueSeDigitouSemEnterFicaAoDesistirDeUmArquivo) {
+    atos::irParaCélula(alvo(perfilForm, "flexGrid"), 3, 1);
+    digitar(perfilForm, "Text6", "17.5");
+    respostas = {false};
+    clicar(perfilForm, "Option2");
+    EXPECT_EQ(célula(3, 1), "17.50");
+    EXPECT_EQ(controleComFoco, &perfilForm->Option1);
+    digitar(perfilForm, "Text6", "17.6");
+    clicar(perfilForm, "Option1");
+    EXPECT_EQ(célula(3, 1), "17.60");
 }
 
 TEST_F(EnsaioRadial, EncolherAPlanilhaNãoLevaOTextoDaCélulaQueSeFoi) {

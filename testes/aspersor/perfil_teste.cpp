@@ -83,7 +83,8 @@ TEST_F(AspersorMedido, UmPerfilBaixoDemaisParaAEscalaTerminaComErroDeExecução)
     abrirPerfilForm({{"2", "0.126"}, {"10", "0.07"}, {"18", "0.014"}});
     respostas.push_back(false);
     clicar(perfilForm, "Command8");
-    EXPECT_EQ(caderno.back(), "erro: Divisão por zero");
+    EXPECT_EQ(caderno.back(), "erro: Divisão por zero: as intensidades são pequenas ou grandes demais para a "
+                              "escala do gráfico");
     EXPECT_FALSE(perfil.visivel);
     EXPECT_TRUE(perfilForm.visivel);
 }

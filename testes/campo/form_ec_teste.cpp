@@ -4,6 +4,7 @@
 #include "apoio/pasta_temporaria.h"
 #include "campo/arquivo_movel.h"
 #include "campo/vazao_ec.h"
+#include "simulacao/form7.h"
 
 namespace varenta::teste {
 namespace {
@@ -129,14 +130,132 @@ TEST_F(EnsaioDeCampo, UmaListaSemNúmeroDeixaAPlanilha) {
     EXPECT_EQ(caderno, std::vector<std::string>{});
 }
 
+const std::string grandeDemais =
+    "mensagem: A planilha pode ter no máximo 10000 linhas, 10000 colunas e 2000000 células!";
+
 TEST_F(EnsaioDeCampo, UmaPlanilhaGrandeDemaisÉRecusadaAntesDaMemória) {
-    for (const auto* texto : {"2000000000", "9000000"}) {
+    for (const auto* texto : {"5001", "5000000", "1e9", "1e20"}) {
         caderno.clear();
         digitar(formEC, "Combo3", texto);
         atos::confirmar();
-        EXPECT_EQ(caderno, std::vector<std::string>{"erro: Memória insuficiente"}) << texto;
+        EXPECT_EQ(caderno, std::vector{grandeDemais}) << texto;
         EXPECT_EQ(formEC->flex_A.linhas, 5);
+        EXPECT_EQ(célula(1, 1), "1.000");
     }
+    // 10,000 rows for 200 lines are the most cells.
+    digitar(formEC, "Combo3", "5000");
+    digitar(formEC, "Combo1", "200");
+    atos::confirmar();
+    EXPECT_EQ(formEC->flex_A.linhas, 10001);
+    EXPECT_EQ(formEC->flex_A.colunas, 201);
+    caderno.clear();
+    digitar(formEC, "Combo1", "201");
+    atos::confirmar();
+    EXPECT_EQ(caderno, std::vector{grandeDemais});
+    EXPECT_EQ(formEC->flex_A.colunas, 201);
+}
+
+TEST_F(EnsaioDeCampo, MuitosColetoresSeDesenhamComoLinhas) {
+    digitar(formEC, "Combo3", "5000");
+    atos::confirmar();
+    // Two lines of 5,000 collectors a side: each with its two circles, and the lane's three strokes.
+    EXPECT_EQ(formEC->Picture1.traços.size(), 3U + 2 * (1 + 20000));
+    digitar(formEC, "Combo1", "3");
+    atos::confirmar();
+    EXPECT_EQ(formEC->Picture1.traços.size(), 3U + 3);
+}
+
+TEST_F(EnsaioDeCampo, ListasQueNãoFizeramAPlanilhaNãoSeUsam) {
+    digitar(formEC, "Text12", "30");
+    const auto recusa = [](const char* nome, const char* texto, const char* mensagem) {
+        const auto antes = std::get<Lista*>(formEC.achar(nome, std::nullopt)->controle)->texto;
+        for (const auto* botão : {"Command1", "Command4"}) {
+            digitar(formEC, nome, texto);
+            atos::confirmar();
+            esperarRecusa(botão, mensagem);
+            EXPECT_EQ(controleComFoco, std::get<Lista*>(formEC.achar(nome, std::nullopt)->controle)) << texto;
+        }
+        digitar(formEC, nome, antes);
+        atos::confirmar();
+        EXPECT_EQ(célula(1, 1), "1.000") << texto;
+    };
+    for (const auto* texto : {"", "duas", "0", "0.4", "5000000", "1e9", "1e20"}) {
+        recusa("Combo1", texto, "Número de linhas de coletores inválido!");
+        recusa("Combo3", texto, "Número de coletores em cada lada linha inválido!");
+    }
+}
+
+TEST_F(EnsaioDeCampo, ListasQueNãoFizeramAPlanilhaNãoDãoPerfilRadial) {
+    abrirFormEC("PerfRad", {{"1"}, {"2"}, {"2"}, {"1"}});
+    digitar(formEC, "Combo3", "1e9");
+    atos::confirmar();
+    esperarRecusa("Command6", "Número de coletores em cada lada linha inválido!");
+}
+
+TEST_F(EnsaioDeCampo, UmEnsaioEstreitoDemaisNãoSeSobrepõe) {
+    // One collector a side, 2 m apart: 4 m, and the smallest spacing is 6 m.
+    abrirFormEC("EnsCampo", {{"1"}, {"1"}});
+    digitar(formEC, "Text12", "30");
+    esperarRecusa("Command4", "A largura molhada do ensaio deve ser de 6 m ou mais!");
+    escolher(formEC, "Combo4", "3.0");
+    respostas = {};
+    clicar(formEC, "Command4");
+    EXPECT_EQ(formUnifo->cmbEspaçamento.itens, std::vector<std::string>{"6"});
+}
+
+// What the entry line holds counts without an Enter.
+
+TEST_F(EnsaioDeCampo, OQueSeDigitouSemEnterVale) {
+    digitar(formEC, "Text12", "30");
+    const auto digitarNaCélula = [](const char* texto) {
+        atos::irParaCélula(alvo(formEC, "flex_A"), 2, 1);
+        digitar(formEC, "Text5", texto);
+    };
+    digitarNaCélula("x");
+    esperarRecusa("Command1", "Insira um valores numéricos!");
+    digitarNaCélula("");
+    esperarRecusa("Command4", "Há alguma célula da planilha vazia!");
+    digitarNaCélula("3.25");
+    clicar(formEC, "Command4");
+    EXPECT_TRUE(formUnifo.visivel);
+    EXPECT_EQ(célula(2, 1), "3.250");
+}
+
+TEST_F(EnsaioDeCampo, OQueSeDigitouSemEnterValeParaOPerfilRadial) {
+    abrirFormEC("PerfRad", {{"1"}, {"2"}, {"2"}, {"1"}});
+    atos::irParaCélula(alvo(formEC, "flex_A"), 1, 1);
+    digitar(formEC, "Text5", "y");
+    esperarRecusa("Command6", "Insira valores numéricos!");
+}
+
+TEST_F(EnsaioDeCampo, OQueSeDigitouSemEnterFicaComOutroEspaçoUnidadeOuModo) {
+    atos::irParaCélula(alvo(formEC, "flex_A"), 1, 2);
+    digitar(formEC, "Text5", "9.1");
+    escolher(formEC, "Combo4", "3.0");
+    EXPECT_EQ(célula(1, 2), "9.100");
+    digitar(formEC, "Text5", "9.2");
+    clicar(formEC, "Option3");
+    EXPECT_EQ(célula(1, 2), "9.200");
+    digitar(formEC, "Text5", "9.3");
+    clicar(formEC, "Option1");
+    EXPECT_EQ(célula(1, 2), "9.300");
+    digitar(formEC, "Text5", "9.4");
+    respostas = {false};
+    clicar(formEC, "Option2");
+    EXPECT_EQ(célula(1, 2), "9.400");
+    EXPECT_EQ(formEC->Text5.texto, "9.400");
+    EXPECT_EQ(controleComFoco, &formEC->Option1);
+}
+
+TEST_F(EnsaioDeCampo, ODiâmetroZeroDizOQueConferir) {
+    digitar(formEC, "Text12", "30");
+    clicar(formEC, "Option3");
+    digitar(formEC, "Text7", "0");
+    caderno.clear();
+    clicar(formEC, "Command4");
+    EXPECT_EQ(caderno,
+              std::vector<std::string>{"erro: Divisão por zero: confira o diâmetro do coletor e os volumes"});
+    EXPECT_TRUE(formEC.visivel);
 }
 
 TEST_F(EnsaioDeCampo, AEntradaFormataAndaEConta) {
@@ -231,13 +350,12 @@ TEST_F(EnsaioDeCampo, OPerfilRadialQuerColetoresDaLista) {
 }
 
 TEST_F(EnsaioDeCampo, TodasAsCélulasTêmDeEstarPreenchidasAntesDeSeremNúmeros) {
-    formEC->flex_A.escrever(1, 1, "x");
-    formEC->flex_A.escrever(4, 2, "");
+    atos::preencherCélula(alvo(formEC, "flex_A"), 1, 1, "x");
+    atos::preencherCélula(alvo(formEC, "flex_A"), 4, 2, "");
     esperarRecusa("Command4", "Há alguma célula da planilha vazia!");
     EXPECT_EQ(formEC->flex_A.linhaAtual, 4);
     EXPECT_EQ(formEC->flex_A.colunaAtual, 2);
     EXPECT_EQ(controleComFoco, &formEC->Text5);
-    formEC->flex_A.escrever(1, 1, "x");
     atos::preencherCélula(alvo(formEC, "flex_A"), 4, 2, "1");
     esperarRecusa("Command4", "Insira valores numéricos!");
 }
@@ -390,6 +508,16 @@ TEST_F(ArquivoDoEnsaioDeCampo, LidoUmArquivoAPlanilhaNãoAdmiteEntradaAtéDigita
     EXPECT_EQ(formEC->Text5.texto, "1.000");
 }
 
+TEST_F(ArquivoDoEnsaioDeCampo, AsListasSóSãoLivresAoDigitar) {
+    abrir("A\n20\n45\n24\n30\n40\n270\n1\n6\n3\n2\n\n\n1\n1\n2\n3\n4\n5\n6");
+    for (const auto* nome : {"Combo1", "Combo2", "Combo3", "Combo4"})
+        EXPECT_EQ(recusaDe([&] { digitar(formEC, nome, "1"); }),
+                  "Form_EC." + std::string{nome} + " está desabilitado");
+    clicar(formEC, "Option1");
+    escolher(formEC, "Combo1", "2");
+    EXPECT_EQ(formEC->flex_A.colunas, 3);
+}
+
 TEST_F(ArquivoDoEnsaioDeCampo, NãoOuCanceladoVoltamADigitar) {
     respostas = {false};
     clicar(formEC, "Option2");
@@ -418,6 +546,23 @@ TEST_F(ArquivoDoEnsaioDeCampo, LinhasQueNãoSãoQuantidadesSãoRecusadas) {
     esperarQueNãoAbre(semLeituras + "0\r\n6\r\n3\r\n2\r\n\r\n\r\n1\r\n");
     esperarQueNãoAbre(semLeituras + "1\r\n6\r\n-3\r\n4\r\n\r\n\r\n1\r\n");
     esperarQueNãoAbre(semLeituras + "1\r\n6\r\n2000000000\r\n2\r\n\r\n\r\n1\r\n");
+}
+
+TEST_F(ArquivoDoEnsaioDeCampo, ContagensQueNãoCabemNaPlanilhaSãoRecusadasAntesDela) {
+    for (const auto* contagens : {"10001\r\n6\r\n3", "1\r\n6\r\n5001", "201\r\n6\r\n5000", "1\r\n6\r\n1e300"})
+        esperarQueNãoAbre(semLeituras + contagens + "\r\n2\r\n\r\n\r\n1\r\n1");
+}
+
+TEST_F(ArquivoDoEnsaioDeCampo, AsContagensValemJuntasENãoComAsDeAntes) {
+    // 900 lines of the file's with 5,000 collectors a side from before would be too many cells.
+    digitar(formEC, "Combo1", "1");
+    digitar(formEC, "Combo3", "5000");
+    atos::confirmar();
+    std::string linha;
+    for (int k = 1; k <= 900; ++k) linha += (k > 1 ? "\t" : "") + std::to_string(k);
+    abrir(semLeituras + "900\r\n6\r\n1\r\n6\r\n\r\n\r\n1\r\n" + linha + "\r\n" + linha);
+    EXPECT_TRUE(formEC->Option2.marcada);
+    EXPECT_EQ(célula(2, 900), "900.000");
 }
 
 TEST_F(ArquivoDoEnsaioDeCampo, UmaUnidadeDesconhecidaÉRecusada) {
@@ -507,6 +652,8 @@ TEST_F(ArquivoDoEnsaioDeCampo, OVentoDadoTemDeTerVelocidadeEDireçãoDentroDaFai
         digitar(formEC, "Text3", direção);
     };
     vento("x", "x");
+    esperarQueNãoSalva("Insira um valor numérico de direção do vento!");
+    vento("x", "90");
     esperarQueNãoSalva("Insira um valor numérico de velocidade do vento!");
     vento("", "90");
     esperarQueNãoSalva("Insira um valor numérico de velocidade do vento!");
@@ -572,6 +719,57 @@ TEST_F(ArquivoDoEnsaioDeCampo, PerfilSalvaOsDadosDoEnsaioEOsSeus22Pontos) {
         esperado += perfil->lblRaio[k].texto + "\t" + perfil->lblIntensidade[k].texto + "\r\n";
     EXPECT_EQ(pasta.bytes("perfil.txt"), esperado);
     EXPECT_NE(esperado.find("0.0\t26.19"), std::string::npos);
+}
+
+TEST_F(ArquivoDoEnsaioDeCampo, OPerfilSalvoAvançaNoEnsaioRadialSemASuaPrimeiraESuaÚltimaLinha) {
+    // 2 mm at 9 m and 4 mm at 3 m reach 0 at 15 m.
+    abrirFormEC("PerfRad", {{"2"}, {"4"}, {"4"}, {"2"}});
+    escolher(formEC, "Combo4", "6.0");
+    digitar(formEC, "Text1", "24");
+    digitar(formEC, "Text12", "5");
+    respostas = {true};
+    clicar(formEC, "Command6");
+    arquivos = {pasta.caminho("perfil.txt")};
+    clicar(perfil, "Command4");
+    const auto bytes = pasta.bytes("perfil.txt");
+    const auto abrirNoEnsaioRadial = [&](const std::string& conteúdo) {
+        recomeçar();
+        clicar(form3, "Ou_aspB");
+        respostas = {true, true};
+        arquivos = {pasta.gravar("lido.txt", conteúdo)};
+        clicar(perfilForm, "Option2");
+        EXPECT_TRUE(perfilForm->Option2.marcada);
+        caderno.clear();
+        clicar(perfilForm, "Command8");
+    };
+    abrirNoEnsaioRadial(bytes);
+    EXPECT_EQ(caderno,
+              std::vector<std::string>{
+                  "mensagem: O primeiro valor de distância ao aspersor deve ser diferente de zero!"});
+
+    const auto início = bytes.find("22\r\n1\r\n0.0\t");
+    ASSERT_NE(início, std::string::npos);
+    const auto primeira = início + std::string{"22\r\n1\r\n"}.size();
+    const auto segunda = bytes.find('\n', primeira) + 1;
+    const auto última = bytes.rfind('\n', bytes.size() - 2) + 1;
+    abrirNoEnsaioRadial(bytes.substr(0, início) + "20\r\n1\r\n" + bytes.substr(segunda, última - segunda));
+    EXPECT_TRUE(perfil.visivel);
+}
+
+TEST_F(ArquivoDoEnsaioDeCampo, ASimulaçãoPeloEnsaioDeCampoNãoLevaOSeuNomeAoTítulo) {
+    abrirFormEC("PerfRad", {{"2"}, {"4"}, {"4"}, {"2"}});
+    escolher(formEC, "Combo4", "6.0");
+    digitar(formEC, "Text6", "Canhão B");
+    digitar(formEC, "Text12", "5");
+    respostas = {true};
+    clicar(formEC, "Command6");
+    EXPECT_FALSE(perfilForm.carregada());
+    clicar(perfil, "Command6");
+    EXPECT_EQ(form7.caption(),
+              "Perfil Transversal de Aplicação de Água com Vento - Aspersor não Especificado");
+    EXPECT_EQ(form7->Label20.texto, "Aspersor: Canhão B");
+    EXPECT_TRUE(perfilForm.carregada());
+    EXPECT_FALSE(perfilForm.visivel);
 }
 
 } // namespace

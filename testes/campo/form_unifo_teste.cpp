@@ -156,6 +156,47 @@ TEST_F(SobreposiçãoDoMóvel, UmEspaçamentoNuloVoltaAoPrimeiro) {
     }
 }
 
+TEST_F(SobreposiçãoDoMóvel, UmEspaçamentoSemPosiçõesOuGrandeDemaisVoltaAoPrimeiro) {
+    // 0.4 m and 0.5 m round to a multiple of six, 0, and 2 m hold no position of them; 20,004 m and more ask
+    // for more than 10,000 positions.
+    for (const auto* texto : {"-6", "-12", "0.4", "0.5", "20004", "6e8", "6e300"}) {
+        caderno.clear();
+        escolher(formUnifo, "cmbEspaçamento", "12");
+        digitar(formUnifo, "cmbEspaçamento", texto);
+        clicar(formUnifo, "cmdCUC");
+        EXPECT_EQ(caderno, Textos{"mensagem: Valor de espaçamento inválido!"}) << texto;
+        EXPECT_EQ(formUnifo->cmbEspaçamento.texto, "6");
+        EXPECT_EQ(formUnifo->flexGrid_B.linhas, 4);
+    }
+    caderno.clear();
+    digitar(formUnifo, "cmbEspaçamento", "-7");
+    clicar(formUnifo, "cmdCUC");
+    EXPECT_EQ(caderno, Textos{"mensagem: O espaçamento deve ser múltiplo de seis!"});
+}
+
+TEST_F(SobreposiçãoDoMóvel, OTítuloDizONúmeroENãoOQueSeDigitou) {
+    const std::vector<std::pair<const char*, const char*>> casos = {
+        {"6.4x", "6.4"}, {" 12 m", "12"}, {"018.0", "18"}};
+    for (const auto& [texto, número] : casos) {
+        digitar(formUnifo, "cmbEspaçamento", texto);
+        clicar(formUnifo, "cmdCUC");
+        EXPECT_EQ(formUnifo.caption(), std::string{"Sobreposição para o Espaçamento: "} + número + " m");
+    }
+}
+
+TEST_F(SobreposiçãoDoMóvel, LâminasBaixasDemaisParaAEscalaDizemPorQue) {
+    // At 6 m the largest depth is 0.28 mm; over 6 that is a step of "0.0".
+    Colunas fracas = ensaio;
+    for (auto& valores : fracas)
+        for (auto& valor : valores) valor = "0.0" + valor;
+    abrirUnifo(fracas);
+    EXPECT_EQ(caderno,
+              Textos{"erro: Divisão por zero: as lâminas são pequenas ou grandes demais para a escala do "
+                     "gráfico"});
+    EXPECT_EQ(linha(formUnifo->flexGrid_B, 1), (Textos{"1.00", "0.070", "0.140", "0.105"}));
+    EXPECT_TRUE(formEC.visivel);
+}
+
 TEST_F(SobreposiçãoDoMóvel, UmaSóPosiçãoDeUmaLinhaTerminaComEstouro) {
     // 6 m apart, at 6 m there is one position: no quarter of it.
     abrirFormEC("EnsCampo", {{"1"}, {"2"}, {"2"}, {"1"}});
@@ -222,15 +263,27 @@ TEST_F(SobreposiçãoDoMóvel, OsGráficosTêmAsEscalasDoCentro) {
     // 6 m in 9 steps: 0.67, "0.7"; 14 mm, the largest of all lines, in 6 steps: 2.33, "2.3".
     EXPECT_EQ(f.Label22[9].texto, "6.3");
     EXPECT_EQ(f.Label23[6].texto, "13.8");
-    // 53 strokes of the grid, two segments for each of two lines, in green, and two of their mean, in blue.
+    // 53 strokes of the grid, two segments for each of two lines, in green and in red, and two of their mean,
+    // in blue.
     const auto& traços = f.Picture1.traços;
     ASSERT_EQ(traços.size(), 22U + 14 + 8 + 5 + 3 * 2);
     EXPECT_EQ(std::get<Linha>(traços[49]).cor, cores::verde);
+    EXPECT_EQ(std::get<Linha>(traços[51]).cor, cores::vermelho);
     EXPECT_EQ(std::get<Linha>(traços.back()).cor, cores::azul);
     // 1 m at 63 + 315 / 6.3, 10.5 mm at 217 - 210 x 10.5 / 13.8.
     const auto& azul = std::get<Linha>(traços[53]);
     EXPECT_NEAR(azul.x1, 113, 1e-9);
     EXPECT_NEAR(azul.y1, 217 - 210 * 10.5 / 13.8, 1e-9);
+}
+
+TEST_F(SobreposiçãoDoMóvel, LinhasVizinhasTêmCoresDiferentes) {
+    abrirUnifo({{"1", "2", "3", "4"}, {"2", "4", "6", "8"}, {"2", "4", "6", "8"}, {"1", "2", "3", "4"}});
+    // At 6 m two collectors a side make three positions, so two segments a line.
+    const auto& traços = formUnifo->Picture1.traços;
+    std::vector<Cor> usadas;
+    for (std::size_t k = 49; k < traços.size(); k += 2) usadas.push_back(std::get<Linha>(traços[k]).cor);
+    EXPECT_EQ(usadas,
+              (std::vector<Cor>{cores::verde, cores::vermelho, cores::magenta, cores::verde, cores::azul}));
 }
 
 TEST_F(SobreposiçãoDoMóvel, OMouseLêOsGráficos) {

@@ -207,6 +207,7 @@ TEST_F(PerfilDoMóvel, UmaVazãoQueNãoÉPositivaÉRecusada) {
         gerar();
         EXPECT_EQ(caderno, std::vector<std::string>{"mensagem: Valor numérico de vazão inválido!"});
         EXPECT_EQ(formEC->Text12.texto, vazão);
+        EXPECT_EQ(controleComFoco, &formEC->Text12);
     }
 }
 
@@ -276,11 +277,12 @@ TEST_F(PerfilDoMóvel, AMédiaDosDoisLadosEDasLinhasÉOPerfil) {
 }
 
 TEST_F(PerfilDoMóvel, VolumesDãoAsMesmasLâminas) {
-    // 10 ml in a collector of 2 cm, pi cm², is 100 / pi mm; so 4 mm are 1.2566 ml.
+    // A collector of 20 m has pi x 10^6 cm²: 4 mm are 4 x 10^5 pi ml. So large a one, since the cells keep
+    // only three decimals.
     clicar(formEC, "Option3");
     for (int l = 1; l <= 4; ++l)
-        formEC->flex_A.escrever(l, 1, l == 1 || l == 4 ? "0.62831853" : "1.25663706");
-    digitar(formEC, "Text7", "2");
+        atos::preencherCélula(alvo(formEC, "flex_A"), l, 1, l == 1 || l == 4 ? "628318.531" : "1256637.061");
+    digitar(formEC, "Text7", "2000");
     respostas = {true, true};
     gerar();
     EXPECT_NEAR(std::stod(formEC->Text12.texto), vazãoFeitaÀMão(), 0.001);

@@ -24,5 +24,12 @@ TEST(ElementoDeSequência, AcusaÍndiceForaDosLimites) {
     EXPECT_EQ(teste::erroDe([&] { elemento(vazia, 0); }), "Índice fora dos limites");
 }
 
+TEST(ErroExplicado, TemONomeEOQueSignifica) {
+    EXPECT_EQ(
+        teste::erroDe([] { explicarErro("nada a dividir", [] { throw ErroExecucao{divisãoPorZero}; }); }),
+        "Divisão por zero: nada a dividir");
+    EXPECT_EQ(explicarErro("nada", [] { return 7; }), 7);
+}
+
 } // namespace
 } // namespace varenta

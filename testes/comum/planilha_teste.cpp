@@ -165,6 +165,15 @@ TEST_F(EntradaNaPlanilha, OutroTamanhoQueMoveACélulaAtualTrocaOTextoDaEntrada) 
     EXPECT_EQ(entrada(), "c");
 }
 
+TEST(TamanhoDaPlanilha, TemUmMáximoDeLinhasDeColunasEDeCélulas) {
+    const std::string recusa = "A planilha pode ter no máximo 10000 linhas, 10000 colunas e 2000000 células!";
+    EXPECT_EQ(recusaDoTamanho(10000, 200), "");
+    EXPECT_EQ(recusaDoTamanho(2, 10000), "");
+    for (const auto& [linhas, colunas] :
+         std::vector<std::pair<double, double>>{{10001, 1}, {1, 10001}, {10000, 201}, {1e20, 1}, {1, 1e300}})
+        EXPECT_EQ(recusaDoTamanho(linhas, colunas), recusa) << linhas << ' ' << colunas;
+}
+
 TEST_F(EntradaNaPlanilha, NomearMostraOsCabeçalhosEDeixaAEntrada) {
     entrada() = "7";
     grade().escrever(1, 0, "outro");

@@ -388,7 +388,10 @@ def laminas(e):
         return valores
     d = float(e.diametro)
     a = PI * (d * d) / 4
-    return [[dividir(10 * v, a) for v in linha] for linha in valores]
+    try:
+        return [[dividir(10 * v, a) for v in linha] for linha in valores]
+    except ErroDeExecucao as erro:
+        raise ErroDeExecucao(f"{erro}: confira o diâmetro do coletor e os volumes") from None
 
 
 def ladosMedidos(profundidades):

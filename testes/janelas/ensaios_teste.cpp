@@ -98,6 +98,54 @@ TEST_F(JanelasDosEnsaios, a_unidade_das_leituras_pede_os_seus_campos) {
     EXPECT_TRUE(perfilForm->Option1.marcada);
 }
 
+TEST_F(JanelasDosEnsaios, o_número_de_dados_corrigido_tecla_por_tecla_não_perde_leituras) {
+    clicarMenu("Ou_aspB");
+    apagarEDigitar(perfilForm, "Text5", "12");
+    for (const auto* leitura : {"4", "20", "8", "18"}) {
+        apagarEDigitar(perfilForm, "Text6", leitura);
+        QTest::keyClick(&widget<QLineEdit>(perfilForm, "Text6"), Qt::Key_Return);
+    }
+    auto& dados = widget<QLineEdit>(perfilForm, "Text5");
+    dados.setFocus(Qt::TabFocusReason);
+    dados.setCursorPosition(2);
+    QTest::keyClick(&dados, Qt::Key_Backspace);
+    EXPECT_EQ(widget<WidgetTabela>(perfilForm, "flexGrid").model()->rowCount(), 1);
+    QTest::keyClicks(&dados, "3");
+    EXPECT_EQ(widget<WidgetTabela>(perfilForm, "flexGrid").model()->rowCount(), 13);
+    EXPECT_EQ(célula(perfilForm, "flexGrid", 1, 1), "18.000");
+    EXPECT_EQ(rótulo(perfilForm, "lblPreenchidas"), "Células preenchidas: 4 de 26");
+    EXPECT_TRUE(caixas.empty());
+}
+
+TEST_F(JanelasDosEnsaios, o_que_se_digitou_sem_Enter_vale_para_o_botão_clicado) {
+    clicarMenu("Ou_aspB");
+    apagarEDigitar(perfilForm, "Text5", "2");
+    for (const auto* leitura : {"4", "20", "16"}) {
+        apagarEDigitar(perfilForm, "Text6", leitura);
+        QTest::keyClick(&widget<QLineEdit>(perfilForm, "Text6"), Qt::Key_Return);
+    }
+    apagarEDigitar(perfilForm, "Text6", "5");
+    respostas = {false};
+    clicar(perfilForm, "Command8");
+    ASSERT_TRUE(perfil.visivel);
+    EXPECT_EQ(rótulo(perfil, "Label17"), "19.00");
+}
+
+TEST_F(JanelasDosEnsaios, um_arquivo_aberto_prende_o_tamanho_da_planilha_até_digitar) {
+    clicarMenu("EnsCampo");
+    const auto livres = [&] {
+        int quantas = 0;
+        for (const auto* nome : {"Combo1", "Combo2", "Combo3", "Combo4"})
+            quantas += widget<QComboBox>(formEC, nome).isEnabled();
+        return quantas;
+    };
+    EXPECT_EQ(livres(), 4);
+    abrirArquivo(formEC, "ensaio_movel_mm.txt");
+    EXPECT_EQ(livres(), 0);
+    clicar(formEC, "Option1");
+    EXPECT_EQ(livres(), 4);
+}
+
 TEST_F(JanelasDosEnsaios, o_mouse_lê_o_perfil_radial) {
     clicarMenu("Ou_aspB");
     abrirArquivo(perfilForm, "ensaio_radial_ml.txt");
