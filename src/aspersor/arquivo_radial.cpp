@@ -103,7 +103,11 @@ void mostrarCabeçalho(const ArquivoRadial& arquivo) {
     definirTexto(f.Text2, arquivo.pressão);
     definirTexto(f.Text8, arquivo.anguloJato);
     definirTexto(f.Text1, arquivo.vazão);
-    if (quantasLinhas(arquivo) <= maiorLadoDaPlanilha) definirTexto(f.Text5, arquivo.linhas);
+    if (quantasLinhas(arquivo) > maiorLadoDaPlanilha) return;
+    definirTexto(f.Text5, arquivo.linhas);
+    // A number that stood there already raises no event, and an operation cut short may have left it without
+    // its rows.
+    perfilForm_Text5_Change();
 }
 
 /// The rest of a file may only be blank lines.
