@@ -103,12 +103,17 @@ std::vector<double> estimados(const EnsaioMóvel& ensaio, const Parametros& p, C
 
 void somarDesvios(Avaliação& avaliação, std::span<const double> observados,
                   std::span<const double> estimados) {
+    double soma = avaliação.soma;
+    std::size_t contados = 0;
     for (std::size_t k = 0; k < observados.size(); ++k) {
         const double desvio = observados[k] - estimados[k];
         const double quadrado = desvio * desvio;
-        avaliação.soma = finito(avaliação.soma + quadrado);
-        if (quadrado > 0) avaliação.contados += 1;
+        soma = soma + quadrado;
+        contados += quadrado > 0;
     }
+    // Squares only add up, so that a sum past the largest double is still there at the end.
+    avaliação.soma = finito(soma);
+    avaliação.contados += contados;
 }
 
 } // namespace varenta

@@ -155,18 +155,17 @@ Máscara noSetor(Vetor xs, Vetor ys, Máscara candidatas, const PreparoDoLote& p
 
 /// Straight lines between the points of the profile at rho, 0 to 1 in all lanes.
 Vetor noPerfil(Vetor rho, const SegmentosDoPerfil& perfil) {
-    alignas(Registro) double limite[faixas], variação[faixas], largura[faixas], início[faixas], r[faixas];
-    rho.gravar(r);
-    for (std::size_t l = 0; l < faixas; ++l) {
-        // Right, or one too far just below a limit: at the limits themselves the sum is whole or above.
-        auto k = static_cast<unsigned>(r[l] * 20 + 0.5);
-        k -= r[l] < perfil.limite[k];
-        limite[l] = perfil.limite[k];
-        variação[l] = perfil.variação[k];
-        largura[l] = perfil.largura[k];
-        início[l] = perfil.início[k];
+    // The segment, or one too far just below a limit: at the limits themselves the sum is whole or above.
+    const Vetor lugar = rho * Vetor{20} + Vetor{0.5};
+    auto k = truncar(lugar);
+    Vetor limite = deTabela(perfil.limite, k);
+    const Máscara além = rho < limite;
+    if (além.alguma()) {
+        k = truncar(onde(além, lugar - Vetor{1}, lugar));
+        limite = deTabela(perfil.limite, k);
     }
-    return (rho - Vetor::lido(limite)) * Vetor::lido(variação) / Vetor::lido(largura) + Vetor::lido(início);
+    return (rho - limite) * Vetor{deTabela(perfil.variação, k)} / Vetor{deTabela(perfil.largura, k)} +
+           Vetor{deTabela(perfil.início, k)};
 }
 
 /// The solutions within the reach. All intensities are 0 to begin with.
