@@ -10,6 +10,7 @@
 #include "shell/sistema.h"
 #include "simulacao/fonte_aspersor.h"
 #include "simulacao/form7.h"
+#include "simulacao/lote.h"
 #include "simulacao/mapa_intensidades.h"
 #include "simulacao/perfil_transversal.h"
 #include "uniformidade/analise_eficiencia.h"

@@ -7,10 +7,11 @@
 namespace varenta::bancada {
 namespace {
 
-constexpr std::size_t fusões = VARENTA_BITS == 128 ? 0 : 30;
-constexpr std::size_t produtos = VARENTA_BITS == 128 ? 43 : 58;
-constexpr std::size_t divisões = VARENTA_BITS == 128 ? 20 : 8;
-constexpr std::size_t somas = 32, raízes = 2;
+constexpr std::size_t fusões = VARENTA_BITS == 128 ? 0 : 22;
+constexpr std::size_t produtos = VARENTA_BITS == 128 ? 78 : 54;
+constexpr std::size_t divisões = VARENTA_BITS == 128 ? 13 : 10;
+constexpr std::size_t somas = VARENTA_BITS == 128 ? 67 : 32; // comparisons among them
+constexpr std::size_t raízes = 2;
 constexpr std::size_t passos = produtos + fusões;
 
 /// As many products as their latency and two units of them ask for.
@@ -56,6 +57,19 @@ template <std::size_t... k>
     (passo<k>(n), ...);
 }
 
+/// `vezes` operations on two numbers, none of which needs the result of another.
+template <class Operação>
+void repetir(std::size_t vezes, Operação&& operação) {
+    Vetor a = 1.5, b = 1.25;
+    for (std::size_t n = 0; n < vezes; n += 8)
+        for (int k = 0; k < 8; ++k) {
+            prender(a);
+            prender(b);
+            Vetor resultado = operação(a, b);
+            prender(resultado);
+        }
+}
+
 } // namespace
 
 template <>
@@ -66,6 +80,16 @@ void misturar<VARENTA_BITS>(std::size_t passes) {
     for (auto& a : n.a) a = 1.5;
     for (auto& s : n.s) s = 1.5;
     for (std::size_t passe = 0; passe < passes; ++passe) umPasse(n, std::make_index_sequence<passos>{});
+}
+
+template <>
+void dividir<VARENTA_BITS>(std::size_t vezes) {
+    repetir(vezes, [](Vetor a, Vetor b) { return a / b; });
+}
+
+template <>
+void extrairRaízes<VARENTA_BITS>(std::size_t vezes) {
+    repetir(vezes, [](Vetor a, Vetor) { return sqrt(a); });
 }
 
 } // namespace varenta::bancada

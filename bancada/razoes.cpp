@@ -4,9 +4,12 @@
 /// processor's, not the clock's. A width that doesn't give the transcription's bits ends the run.
 
 #include "caso.h"
+#include "caso_ajuste.h"
 #include "limite.h"
 #include "transcricao.h"
+#include "transcricao_ajuste.h"
 
+#include "simulacao/lote.h"
 #include "simulacao/nucleo/largura.h"
 
 #include <algorithm>
@@ -19,6 +22,7 @@
 #include <functional>
 #include <span>
 #include <string>
+#include <type_traits>
 #include <vector>
 
 namespace {
@@ -114,44 +118,129 @@ void imprimirLinha(const char* nome, const std::vector<Medida>& medidas) {
     std::printf("\n");
 }
 
-std::vector<std::function<void()>> trabalhosDoCampo(const Campo& campo, std::span<double> i) {
-    std::vector<std::function<void()>> trabalhos = {[&campo, i] { transcrever(campo, i); }};
-    for (const auto largura : largurasDisponíveis())
-        trabalhos.push_back([&campo, i, largura] { avaliarNoLote(campo, largura, i); });
-    return trabalhos;
+/// A row of the table of ratios.
+struct Trabalho {
+    std::string nome;
+    /// The transcription first, then each width; each leaves its numbers in `números`.
+    std::vector<std::function<void()>> feituras;
+    std::vector<double> números;
+};
+
+void comparar(Trabalho& trabalho) {
+    std::vector<double> esperados;
+    for (std::size_t k = 0; k < trabalho.feituras.size(); ++k) {
+        trabalho.feituras[k]();
+        if (k == 0)
+            esperados = trabalho.números;
+        else
+            exigirOsMesmosBits(esperados, trabalho.números, largurasDisponíveis()[k - 1]);
+    }
+    imprimirLinha(trabalho.nome.c_str(), alternar(trabalho.feituras));
 }
 
-std::function<void()> misturaDa(Largura largura, std::size_t passes) {
+void compararCampo(const Campo& campo) {
+    Trabalho t{"campo de 88 x 88 pontos", {}, std::vector<double>(campo.X.size())};
+    t.feituras.push_back([&] { transcrever(campo, t.números); });
+    for (const auto largura : largurasDisponíveis())
+        t.feituras.push_back([&, largura] { avaliarNoLote(campo, largura, t.números); });
+    comparar(t);
+}
+
+struct Ajustado {
+    ResultadoDaBusca resultado;
+    std::vector<double> desvios;
+    std::size_t avaliações = 0;
+};
+
+template <class Ensaio>
+Ajustado ajustar(const std::vector<Ensaio>& ensaios, Largura largura) {
+    ContagemDoModelo contagem;
+    const auto objetivo = objetivoDosEnsaios(ensaios, contagem, largura);
+    Ajustado ajustado;
+    ajustado.resultado = buscarParametros(
+        [&](std::span<const Parametros> pontos) {
+            ajustado.avaliações += pontos.size();
+            return objetivo(pontos);
+        },
+        std::is_same_v<Ensaio, EnsaioDeMalha> ? 1e-5 : 1e-7,
+        {[&](double desvio) { ajustado.desvios.push_back(desvio); }, [](double) {}});
+    return ajustado;
+}
+
+/// A whole fit, and all mean deviations on its way.
+template <class Ensaio>
+void compararAjuste(const char* nome, const std::vector<Ensaio>& ensaios) {
+    Trabalho t{nome, {}, {}};
+    std::size_t plenas = 0, feitas = 0;
+    const auto guardar = [&](const std::vector<double>& desvios, const Parametros& p) {
+        t.números = desvios;
+        t.números.insert(t.números.end(), p.begin(), p.end());
+    };
+    t.feituras.push_back([&] {
+        const auto ajuste = bancada::ajusteTranscrito(ensaios);
+        plenas = ajuste.avaliações;
+        guardar(ajuste.desvios, ajuste.p);
+    });
+    for (const auto largura : largurasDisponíveis())
+        t.feituras.push_back([&, largura] {
+            const auto ajuste = ajustar(ensaios, largura);
+            feitas = ajuste.avaliações;
+            guardar(ajuste.desvios, ajuste.resultado.p);
+        });
+    for (const std::size_t k : {0u, 1u}) t.feituras[k]();
+    t.nome += ", " + std::to_string(plenas) + " avaliações, das quais " + std::to_string(feitas) + " feitas";
+    comparar(t);
+}
+
+/// What measures the limits at a width.
+struct Medidores {
+    void (*misturar)(std::size_t) = nullptr;
+    void (*dividir)(std::size_t) = nullptr;
+    void (*extrairRaízes)(std::size_t) = nullptr;
+};
+
+Medidores medidoresDa(Largura largura) {
     switch (largura) {
 #if defined(VARENTA_VETORES)
     case Largura::bits128:
-        return [passes] { bancada::misturar<128>(passes); };
+        return {bancada::misturar<128>, bancada::dividir<128>, bancada::extrairRaízes<128>};
     case Largura::bits256:
-        return [passes] { bancada::misturar<256>(passes); };
+        return {bancada::misturar<256>, bancada::dividir<256>, bancada::extrairRaízes<256>};
     case Largura::bits512:
-        return [passes] { bancada::misturar<512>(passes); };
+        return {bancada::misturar<512>, bancada::dividir<512>, bancada::extrairRaízes<512>};
 #endif
     default:
         return {};
     }
 }
 
-/// How much of the time of the field the arithmetic of its passes alone would take.
+/// How much of the time of the field its arithmetic alone would take. The second stage of a point that gets
+/// water is counted as another pass, which it nearly is: 11 divisions and 3 square roots.
 void imprimirLimites(const Campo& campo) {
-    std::printf("\n| Largura | ns por ponto | um passe, ns por ponto | limite, ns por ponto | fração |\n"
-                "|---|---|---|---|---|\n");
+    std::printf(
+        "\n| Largura | divisão, ciclos | raiz, ciclos | ciclos por passe no limite | ns por ponto | ciclos "
+        "por ponto | no limite | fração |\n|---|---|---|---|---|---|---|---|\n");
     std::vector<double> i(campo.X.size());
+    const auto pontos = static_cast<double>(campo.X.size());
     for (const auto largura : largurasDisponíveis()) {
+        const auto medidores = medidoresDa(largura);
+        if (!medidores.misturar) continue;
         const auto contagem = avaliarNoLote(campo, largura, i);
-        const auto passes = contagem.passes / contagem.faixas;
-        const auto mistura = misturaDa(largura, passes);
-        if (!mistura) continue;
-        const auto medidas = alternar({[&] { avaliarNoLote(campo, largura, i); }, mistura});
-        const auto pontos = static_cast<double>(campo.X.size());
-        const double ponto = medidas[0].mediana / pontos * 1e9, limite = medidas[1].mediana / pontos * 1e9;
-        std::printf("| %s | %.2f | %.2f | %.2f | %.0f%% |\n", std::string{nomeDa(largura)}.c_str(), ponto,
-                    limite * pontos / static_cast<double>(passes * contagem.faixas), limite,
-                    100 * limite / ponto);
+        const auto molhados = static_cast<std::size_t>(
+            std::ranges::count_if(i, [](double intensidade) { return intensidade != 0; }));
+        const auto passes = (contagem.passes + molhados) / contagem.faixas;
+        constexpr std::size_t vezes = 100'000;
+        const auto medidas =
+            alternar({[&] { avaliarNoLote(campo, largura, i); }, [&] { medidores.misturar(passes); },
+                      [&] { medidores.dividir(vezes); }, [&] { medidores.extrairRaízes(vezes); },
+                      [] { bancada::contarCiclos(vezes); }});
+        const double ciclo = medidas[4].mediana / vezes;
+        const auto cadaUm = [&](const Medida& medida) { return medida.mediana / vezes / ciclo; };
+        const double ponto = medidas[0].mediana / pontos, limite = medidas[1].mediana / pontos;
+        std::printf("| %s | %.2f | %.2f | %.1f | %.2f | %.1f | %.1f | %.0f%% |\n",
+                    std::string{nomeDa(largura)}.c_str(), cadaUm(medidas[2]), cadaUm(medidas[3]),
+                    medidas[1].mediana / static_cast<double>(passes) / ciclo, ponto * 1e9, ponto / ciclo,
+                    limite / ciclo, 100 * limite / ponto);
     }
 }
 
@@ -175,22 +264,22 @@ void imprimirCrescimento(const DadosDaSimulação& dados) {
 int main(int quantos, char** argumentos) {
     const auto dados = bancada::caso();
     const auto campo = campoDe(dados, static_cast<std::size_t>(ladoDoCampo(dados)));
-    std::vector<double> esperado(campo.X.size()), i(campo.X.size());
+    std::vector<double> i(campo.X.size());
     if (quantos > 1) {
         for (int vez = std::atoi(argumentos[1]); vez > 0; --vez) avaliarNoLote(campo, larguraEmUso(), i);
         return 0;
     }
-    transcrever(campo, esperado);
     std::printf("| Trabalho | transcrição |");
-    for (const auto largura : largurasDisponíveis()) {
-        avaliarNoLote(campo, largura, i);
-        exigirOsMesmosBits(esperado, i, largura);
+    for (const auto largura : largurasDisponíveis())
         std::printf(" %s |", std::string{nomeDa(largura)}.c_str());
-    }
     std::printf("\n|---|---|");
     for (std::size_t k = 0; k < largurasDisponíveis().size(); ++k) std::printf("---|");
     std::printf("\n");
-    imprimirLinha("campo de 88 x 88 pontos", alternar(trabalhosDoCampo(campo, i)));
+    compararCampo(campo);
+    compararAjuste("ajuste da malha, 1 ensaio de 14 x 14", bancada::ensaiosDeMalha(1, 14, 6));
+    compararAjuste("ajuste da malha, 3 ensaios de 60 x 60", bancada::ensaiosDeMalha(3, 60, 2));
+    compararAjuste("ajuste do autopropelido, 1 ensaio, 20 de cada lado", bancada::ensaiosMóveis(1, 20, 3));
+    compararAjuste("ajuste do autopropelido, 3 ensaios, 40 de cada lado", bancada::ensaiosMóveis(3, 40, 2));
     imprimirLimites(campo);
     imprimirCrescimento(dados);
 }

@@ -1,47 +1,13 @@
 #include "transcricao.h"
 
+#include "transcricao_modelo.h"
+
 #include <cmath>
 
 namespace varenta::bancada {
 namespace {
 
 constexpr double pi = 3.14159265358979;
-
-struct Ponto {
-    double x, y;
-};
-
-Ponto pontoSemVento(double x0, double y0, double R, double W, double A, double B, double C, double D,
-                    double E, double F, double anguloJato) {
-    double x = x0, y = y0, err = 0;
-    int contador = 0;
-    const double s2 = std::sin(anguloJato) * std::sin(anguloJato);
-    do {
-        const double r = std::sqrt(x * x + y * y);
-        const double q = std::sqrt(s2 * (x * x) + y * y) / r;
-        const double T = (A + B * (r / R) + C * ((r / R) * (r / R))) * W;
-        const double P = D / (r * R) + E / (R * R) + F * r / (R * R * R);
-        const double F1 = -((x - T - P * q * r * x * W) - x0);
-        const double F2 = -((y - P * W * q * r * y) - y0);
-        const double g1 = B / r + 2 * C / R;
-        const double g2 = F / (R * R) - D / (r * r);
-        const double g3 = D / (r * r) + E / (R * r) + F / (R * R);
-        const double g4 = D + E * r / R + F * (r * r) / (R * R);
-        const double J11 = 1 - (W * x / R) * (g1 + g2 * q * x + g3 * (x * s2 / q) + g4 * (q / x));
-        const double J12 = (-y * W / R) * (g1 + g2 * q * x + g3 * (x / q));
-        const double J21 = (-W * y * x / R) * (g2 * q + g3 * (s2 / q));
-        const double J22 = 1 - (W * y / R) * (g2 * q * y + g3 * (y / q) + g4 * (q / y));
-        const double det = J11 * J22 - J12 * J21;
-        const double dx = (F1 * J22 - F2 * J12) / det;
-        const double dy = (F2 * J11 - F1 * J21) / det;
-        x = x + dx;
-        y = y + dy;
-        err = std::fabs(F1) + std::fabs(F2);
-        contador = contador + 1;
-        if (contador > 25) err = 1e-20;
-    } while (err > 1e-2);
-    return {x, y};
-}
 
 double distanciaNoSetor(double anguloSecoI, double anguloSecoII, double rotacao, double xs, double ys,
                         double R) {
@@ -63,19 +29,6 @@ double distanciaNoSetor(double anguloSecoI, double anguloSecoII, double rotacao,
     return theta >= rad1 && theta <= rad2 ? std::sqrt(xs * xs + ys * ys) : 0;
 }
 
-double perfilRadialEm(double rho, double anguloGiro, const PontosDoPerfil& I) {
-    constexpr double a[] = {0,     0.025, 0.075, 0.125, 0.175, 0.225, 0.275, 0.325, 0.375, 0.425, 0.475,
-                            0.525, 0.575, 0.625, 0.675, 0.725, 0.775, 0.825, 0.875, 0.925, 0.975, 1};
-    double i = 0;
-    for (std::size_t k = 0; k < 21; ++k)
-        if (rho >= a[k] && rho < a[k + 1]) {
-            const double w = k == 0 || k == 20 ? 0.025 : 0.05;
-            i = (rho - a[k]) * (I[k + 1] - I[k]) / w + I[k];
-            break;
-        }
-    return i * (360 / anguloGiro);
-}
-
 } // namespace
 
 double intensidadeTranscrita(double x0, double y0, double anguloSecoI, double anguloSecoII, double rotacao,
@@ -89,17 +42,9 @@ double intensidadeTranscrita(double x0, double y0, double anguloSecoI, double an
     const double ys = y * std::cos(rotVento) - x * std::sin(rotVento);
     const double d = distanciaNoSetor(anguloSecoI, anguloSecoII, rotacao, xs, ys, R);
     if (d / R == 0) return 0;
-    const double i = perfilRadialEm(d / R, anguloGiro, lblIntensidade);
+    const double i = intensidadeRelativa(d / R, lblIntensidade, false) * (360 / anguloGiro);
     if (i == 0) return 0;
-    const double s2 = std::sin(anguloJato) * std::sin(anguloJato);
-    const double q = std::sqrt(s2 * (x * x) + y * y) / r;
-    const double g1 = B / r + 2 * C / R;
-    const double g2 = F / (R * R) - D / (r * r);
-    const double g3 = D / (r * r) + E / (R * r) + F / (R * R);
-    const double g4 = D + E * r / R + F * (r * r) / (R * R);
-    const double J11 = 1 - (W * x / R) * (g1 + g2 * q * x + g3 * (x * s2 / q) + g4 * (q / x));
-    const double J22 = 1 - (W * y / R) * (g2 * q * y + g3 * (y / q) + g4 * (q / y));
-    return i / (J11 * J22);
+    return i / fatorDeÁrea(x, y, R, W, B, C, D, E, F, anguloJato);
 }
 
 } // namespace varenta::bancada

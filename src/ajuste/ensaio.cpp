@@ -22,12 +22,16 @@ CondiçõesDoPonto condiçõesDoEnsaio(const AspersorDoAjuste& aspersor, const V
 }
 
 /// Adds the ground point (y ahead, x to the right) to the test's points.
-void juntarPonto(EnsaioDoAjuste& ensaio, const Senos& senos, double y, double x) {
-    ensaio.X.push_back(y * senos.cosseno - x * senos.seno);
-    ensaio.Y.push_back(x * senos.cosseno + y * senos.seno);
+void juntarPonto(EnsaioDoAjuste& ensaio, double y, double x) {
+    const auto& [s2, cosseno, seno] = ensaio.lote.senos();
+    ensaio.X.push_back(y * cosseno - x * seno);
+    ensaio.Y.push_back(x * cosseno + y * seno);
 }
 
 } // namespace
+
+EnsaioDoAjuste::EnsaioDoAjuste(const CondiçõesDoPonto& condições, int N_, double e_)
+    : N{N_}, e{e_}, lote{condições} {}
 
 double lugarAscendente(double e, int N, int j) {
     return e * (-static_cast<double>(N) / 2 + 0.5) + e * static_cast<double>(j);
@@ -41,33 +45,22 @@ double áreaDoColetor(double d) { return piDoModelo * (d * d) / 4; }
 
 EnsaioDeMalha ensaioDeMalha(const AspersorDoAjuste& aspersor, const VentoDoEnsaio& vento, int N, double e,
                             std::vector<double> intensidades) {
-    EnsaioDeMalha ensaio;
-    ensaio.N = N;
-    ensaio.e = e;
-    ensaio.condições = condiçõesDoEnsaio(aspersor, vento, 360, Setor::círculoInteiro);
+    EnsaioDeMalha ensaio{condiçõesDoEnsaio(aspersor, vento, 360, Setor::círculoInteiro), N, e};
     ensaio.observados = std::move(intensidades);
-    const auto senos = senosDe(ensaio.condições);
     for (int i = 0; i < N; ++i)
         for (int j = 0; j < N; ++j)
-            juntarPonto(ensaio, senos, lugarDescendente(e, N, i), simples(lugarAscendente(e, N, j)));
-    ensaio.V = 0;
+            juntarPonto(ensaio, lugarDescendente(e, N, i), simples(lugarAscendente(e, N, j)));
     for (const double P : ensaio.observados) ensaio.V += P * e * e / 1000;
     return ensaio;
 }
 
 EnsaioMóvel ensaioMóvel(const AspersorDoAjuste& aspersor, const VentoDoEnsaio& vento, int N, double e,
                         double v, double anguloGiro, std::vector<double> lâminas) {
-    EnsaioMóvel ensaio;
-    ensaio.N = N;
-    ensaio.e = e;
+    EnsaioMóvel ensaio{condiçõesDoEnsaio(aspersor, vento, anguloGiro, Setor::semCunhaÀFrente), N, e};
     ensaio.v = v;
-    ensaio.condições = condiçõesDoEnsaio(aspersor, vento, anguloGiro, Setor::semCunhaÀFrente);
     ensaio.observados = std::move(lâminas);
-    const auto senos = senosDe(ensaio.condições);
     for (int j = 0; j < N; ++j)
-        for (int k = 0; k < N; ++k)
-            juntarPonto(ensaio, senos, lugarDescendente(e, N, k), lugarAscendente(e, N, j));
-    ensaio.V = 0;
+        for (int k = 0; k < N; ++k) juntarPonto(ensaio, lugarDescendente(e, N, k), lugarAscendente(e, N, j));
     for (const double O : ensaio.observados) ensaio.V += O * e * v / 1000;
     return ensaio;
 }
@@ -79,16 +72,11 @@ double igualarÀVazão(EnsaioDoAjuste& ensaio, float Q) {
 }
 
 std::vector<double> intensidadesEstimadas(const EnsaioDoAjuste& ensaio, const Parametros& p,
-                                          ContagemDoModelo& contagem) {
-    auto c = ensaio.condições;
-    c.A = p[0];
-    c.B = p[1];
-    c.C = p[2];
-    c.D = p[3];
-    c.E = p[4];
-    c.F = p[5];
+                                          ContagemDoModelo& contagem, Largura largura) {
+    auto lote = ensaio.lote;
+    lote.definirParâmetros(p);
     std::vector<double> intensidades(ensaio.X.size());
-    intensidadesEmPontos(ensaio.X, ensaio.Y, c, intensidades, contagem);
+    lote.avaliar(ensaio.X, ensaio.Y, intensidades, contagem, largura);
     return intensidades;
 }
 
@@ -103,22 +91,29 @@ std::vector<double> lâminasEstimadas(const EnsaioMóvel& ensaio, std::span<cons
     return lâminas;
 }
 
-std::vector<double> estimados(const EnsaioDeMalha& ensaio, const Parametros& p, ContagemDoModelo& contagem) {
-    return intensidadesEstimadas(ensaio, p, contagem);
+std::vector<double> estimados(const EnsaioDeMalha& ensaio, const Parametros& p, ContagemDoModelo& contagem,
+                              Largura largura) {
+    return intensidadesEstimadas(ensaio, p, contagem, largura);
 }
 
-std::vector<double> estimados(const EnsaioMóvel& ensaio, const Parametros& p, ContagemDoModelo& contagem) {
-    return lâminasEstimadas(ensaio, intensidadesEstimadas(ensaio, p, contagem));
+std::vector<double> estimados(const EnsaioMóvel& ensaio, const Parametros& p, ContagemDoModelo& contagem,
+                              Largura largura) {
+    return lâminasEstimadas(ensaio, intensidadesEstimadas(ensaio, p, contagem, largura));
 }
 
 void somarDesvios(Avaliação& avaliação, std::span<const double> observados,
                   std::span<const double> estimados) {
+    double soma = avaliação.soma;
+    std::size_t contados = 0;
     for (std::size_t k = 0; k < observados.size(); ++k) {
         const double desvio = observados[k] - estimados[k];
         const double quadrado = desvio * desvio;
-        avaliação.soma = finito(avaliação.soma + quadrado);
-        if (quadrado > 0) avaliação.contados += 1;
+        soma = soma + quadrado;
+        contados += quadrado > 0;
     }
+    // Squares only add up, so that a sum past the largest double is still there at the end.
+    avaliação.soma = finito(soma);
+    avaliação.contados += contados;
 }
 
 } // namespace varenta

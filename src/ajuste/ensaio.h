@@ -1,7 +1,7 @@
 #pragma once
 
 #include "ajuste/busca.h"
-#include "simulacao/modelo_vento.h"
+#include "simulacao/lote.h"
 
 #include <span>
 #include <vector>
@@ -34,27 +34,33 @@ double áreaDoColetor(double d);
 
 /// A test on a square of N x N points every `e` m around the sprinkler.
 struct EnsaioDoAjuste {
+    EnsaioDoAjuste(const CondiçõesDoPonto& condições, int N, double e);
+
     int N;
     double e;
-    /// With parameters of 0.
-    CondiçõesDoPonto condições;
+    /// The model under the test's wind, with parameters of 0.
+    Lote lote;
     /// One each collector or position: mm/h or mm.
     std::vector<double> observados;
     /// All points in the wind frame, m.
     std::vector<double> X, Y;
     /// What the collectors caught, m³/h.
-    double V;
+    double V = 0;
 };
 
 /// A grid of collectors around a sprinkler at rest, row by row from the farthest ahead, each row from left to
 /// right. Observations in mm/h.
-struct EnsaioDeMalha : EnsaioDoAjuste {};
+struct EnsaioDeMalha : EnsaioDoAjuste {
+    using EnsaioDoAjuste::EnsaioDoAjuste;
+};
 
 /// N positions across the lane of a moving sprinkler, from left to right, which passes by in N steps of `e`.
 /// The points are those of each position in turn, as the sprinkler sees it from the first step to the last.
 /// Observations in mm.
 struct EnsaioMóvel : EnsaioDoAjuste {
-    double v; // speed of travel, m/h
+    using EnsaioDoAjuste::EnsaioDoAjuste;
+
+    double v = 0; // speed of travel, m/h
 };
 
 /// The grid test with these intensities (mm/h), N x N of them.
@@ -73,14 +79,16 @@ double igualarÀVazão(EnsaioDoAjuste& ensaio, float Q);
 /// The intensities (mm/h) that the model estimates at all points of a test, in their order; counts are added
 /// to `contagem`. Raises as the model does.
 std::vector<double> intensidadesEstimadas(const EnsaioDoAjuste& ensaio, const Parametros& p,
-                                          ContagemDoModelo& contagem);
+                                          ContagemDoModelo& contagem, Largura largura = larguraEmUso());
 
 /// The depth (mm) at each position from the intensities at its points: their sum, times e / v.
 std::vector<double> lâminasEstimadas(const EnsaioMóvel& ensaio, std::span<const double> intensidades);
 
 /// What the model estimates in place of each observation.
-std::vector<double> estimados(const EnsaioDeMalha& ensaio, const Parametros& p, ContagemDoModelo& contagem);
-std::vector<double> estimados(const EnsaioMóvel& ensaio, const Parametros& p, ContagemDoModelo& contagem);
+std::vector<double> estimados(const EnsaioDeMalha& ensaio, const Parametros& p, ContagemDoModelo& contagem,
+                              Largura largura = larguraEmUso());
+std::vector<double> estimados(const EnsaioMóvel& ensaio, const Parametros& p, ContagemDoModelo& contagem,
+                              Largura largura = larguraEmUso());
 
 /// Adds to `avaliação` the squared deviations of the estimates from the observations, in their order. Raises
 /// "Estouro" where the sum grows past the largest double.
@@ -89,12 +97,14 @@ void somarDesvios(Avaliação& avaliação, std::span<const double> observados,
 
 /// The objective of a fit: all deviations of all tests in one sum. The tests and `contagem` must outlive it.
 template <class Ensaio>
-Objetivo objetivoDosEnsaios(const std::vector<Ensaio>& ensaios, ContagemDoModelo& contagem) {
-    return [&ensaios, &contagem](std::span<const Parametros> pontos) {
+Objetivo objetivoDosEnsaios(const std::vector<Ensaio>& ensaios, ContagemDoModelo& contagem,
+                            Largura largura = larguraEmUso()) {
+    return [&ensaios, &contagem, largura](std::span<const Parametros> pontos) {
         std::vector<Avaliação> avaliações(pontos.size());
         for (std::size_t k = 0; k < pontos.size(); ++k)
             for (const auto& ensaio : ensaios)
-                somarDesvios(avaliações[k], ensaio.observados, estimados(ensaio, pontos[k], contagem));
+                somarDesvios(avaliações[k], ensaio.observados,
+                             estimados(ensaio, pontos[k], contagem, largura));
         return avaliações;
     };
 }

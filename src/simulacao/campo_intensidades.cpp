@@ -3,6 +3,7 @@
 #include "comum/erro_execucao.h"
 #include "comum/limites.h"
 #include "comum/numeros.h"
+#include "simulacao/lote.h"
 
 #include <algorithm>
 #include <array>
@@ -18,8 +19,8 @@ namespace {
 constexpr std::size_t pontosDoLote = 4096;
 
 CampoDeIntensidades calcularCampo(const DadosDaSimulação& dados, std::size_t lado) {
-    const auto& c = dados.condições;
-    const auto senos = senosDe(c);
+    const Lote lote{dados.condições};
+    const auto& senos = lote.senos();
     CampoDeIntensidades campo{Matriz{lado, lado}, dados.S, {}};
     std::vector<double> y(lado), X, Y;
     for (std::size_t i = 0; i < lado; ++i) y[i] = campo.y(i);
@@ -35,7 +36,7 @@ CampoDeIntensidades calcularCampo(const DadosDaSimulação& dados, std::size_t l
                 Y.push_back(y[i] * senos.cosseno + x * senos.seno);
             }
         }
-        intensidadesEmPontos(X, Y, c, campo.intensidades.linhas(primeira, quantas), campo.contagem);
+        lote.avaliar(X, Y, campo.intensidades.linhas(primeira, quantas), campo.contagem);
     }
     return campo;
 }

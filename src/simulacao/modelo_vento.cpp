@@ -4,10 +4,8 @@
 #include "comum/trigonometria.h"
 #include "comum/verificado.h"
 #include "simulacao/equacoes_vento.h"
-#include "simulacao/nucleo/nucleo.h"
 #include "simulacao/perfil_em.h"
 
-#include <algorithm>
 #include <cmath>
 
 namespace varenta {
@@ -55,24 +53,6 @@ double intensidadeSemVento(double x, double y, double r, const Senos& senos, con
     if (c.setor == Setor::semCunhaÀFrente) return intensidadeSetor(c.intensidades, xs, ys, c.anguloGiro, c.R);
     const double rho = distanciaNoSetor(c.anguloSecoI, c.anguloSecoII, c.rotacao, xs, ys, c.R) / c.R;
     return rho == 0 ? 0 : perfilRadialEm(c.intensidades, rho, c.anguloGiro);
-}
-
-IntensidadeNoPonto avaliar(double x0, double y0, const Senos& senos, const CondiçõesDoPonto& c) {
-    const double s2 = senos.s2;
-    const auto [x, y, passes, convergiu] = resolver(x0, y0, s2, c);
-    IntensidadeNoPonto ponto{0, passes, convergiu, true};
-    const double r = std::sqrt(finito(x * x + y * y));
-    if (r >= c.R) return ponto;
-    const double i = intensidadeSemVento(x, y, r, senos, c);
-    if (i == 0) return ponto;
-    double fator = 0;
-    ponto.valor = dividirPeloFator<double>(i, x, y, s2, c, fator);
-    if (!std::isfinite(ponto.valor) || !std::isfinite(fator)) {
-        dividirPeloFator<Verificado>(i, x, y, s2, c, fator);
-        finito(ponto.valor + fator);
-    }
-    ponto.fatorPositivo = fator > 0;
-    return ponto;
 }
 
 } // namespace
@@ -152,32 +132,26 @@ double intensidadeSetor(const PontosDoPerfil& intensidades, double u, double w, 
     return intensidadeRelativa(intensidades, rho / R) * dividir(360, anguloGiro);
 }
 
-IntensidadeNoPonto intensidadeEmPonto(double x0, double y0, const CondiçõesDoPonto& condições) {
-    return avaliar(x0, y0, senosDe(condições), condições);
+IntensidadeNoPonto intensidadeEmPonto(double x0, double y0, const Senos& senos, const CondiçõesDoPonto& c) {
+    const double s2 = senos.s2;
+    const auto [x, y, passes, convergiu] = resolver(x0, y0, s2, c);
+    IntensidadeNoPonto ponto{0, passes, convergiu, true};
+    const double r = std::sqrt(finito(x * x + y * y));
+    if (r >= c.R) return ponto;
+    const double i = intensidadeSemVento(x, y, r, senos, c);
+    if (i == 0) return ponto;
+    double fator = 0;
+    ponto.valor = dividirPeloFator<double>(i, x, y, s2, c, fator);
+    if (!std::isfinite(ponto.valor) || !std::isfinite(fator)) {
+        dividirPeloFator<Verificado>(i, x, y, s2, c, fator);
+        finito(ponto.valor + fator);
+    }
+    ponto.fatorPositivo = fator > 0;
+    return ponto;
 }
 
-void intensidadesEmPontos(std::span<const double> x, std::span<const double> y,
-                          const CondiçõesDoPonto& condições, std::span<double> i, ContagemDoModelo& contagem,
-                          Largura largura) {
-    const auto senos = senosDe(condições);
-    const auto umPorUm = [&](std::size_t de, std::size_t até) {
-        for (std::size_t k = de; k < até; ++k) {
-            const auto ponto = avaliar(x[k], y[k], senos, condições);
-            i[k] = ponto.valor;
-            contagem.pontos += 1;
-            contagem.passes += static_cast<std::size_t>(ponto.passes);
-            contagem.semConvergência += !ponto.convergiu;
-            contagem.fatorNãoPositivo += !ponto.fatorPositivo;
-        }
-    };
-    const auto núcleo = núcleoDa(largura);
-    PreparoDoLote preparo;
-    if (!núcleo || i.size() < poucosPontos || !preparar(condições, senos, preparo))
-        return umPorUm(0, i.size());
-    for (std::size_t de = 0; de < i.size(); de += maiorBloco) {
-        const auto n = std::min(maiorBloco, i.size() - de);
-        if (!núcleo(preparo, &x[de], &y[de], &i[de], n, contagem)) umPorUm(de, de + n);
-    }
+IntensidadeNoPonto intensidadeEmPonto(double x0, double y0, const CondiçõesDoPonto& condições) {
+    return intensidadeEmPonto(x0, y0, senosDe(condições), condições);
 }
 
 } // namespace varenta

@@ -1,10 +1,8 @@
 #pragma once
 
 #include "aspersor/perfil_radial.h"
-#include "simulacao/nucleo/largura.h"
 
 #include <cstddef>
-#include <span>
 
 /// How wind distorts a sprinkler's circular pattern, and the intensity of precipitation that follows.
 ///
@@ -134,6 +132,9 @@ struct IntensidadeNoPonto {
 /// which the water comes, divided by the area factor J11 x J22 (the diagonal alone, on purpose); 0 outside
 /// the wetted sector. Raises as `pontoSemVento`.
 IntensidadeNoPonto intensidadeEmPonto(double x0, double y0, const CondiçõesDoPonto& condições);
+/// The same where `senosDe` them is at hand.
+IntensidadeNoPonto intensidadeEmPonto(double x0, double y0, const Senos& senos,
+                                      const CondiçõesDoPonto& condições);
 
 /// How far the values of a batch can be trusted.
 struct ContagemDoModelo {
@@ -147,12 +148,5 @@ struct ContagemDoModelo {
     /// Points that were evaluated several at a time, and how many at a time at the most.
     std::size_t emVetores = 0, faixas = 1;
 };
-
-/// `intensidadeEmPonto` of the points (x[k], y[k]), the same doubles, into `i[k]`; the counts are added to
-/// `contagem`. The three spans have one length. Raises what the first failing point raises; then the points
-/// before it are done and counted. `largura` changes nothing but the time it takes.
-void intensidadesEmPontos(std::span<const double> x, std::span<const double> y,
-                          const CondiçõesDoPonto& condições, std::span<double> i, ContagemDoModelo& contagem,
-                          Largura largura = larguraEmUso());
 
 } // namespace varenta

@@ -91,7 +91,7 @@ TEST(Ensaio, SemVentoAMalhaEstimaOPerfilRadial) {
 
 TEST(Ensaio, AEstimativaDaMalhaÉADoPontoComOsÂngulosAbertos) {
     const auto ensaio = ensaioDeMalha(aspersorDeTeste(), {.W = 3.5, .direção = 77}, 14, 6, {});
-    auto c = ensaio.condições;
+    auto c = ensaio.lote.condições();
     const auto p = parâmetrosDeTeste();
     c.A = p[0], c.B = p[1], c.C = p[2], c.D = p[3], c.E = p[4], c.F = p[5];
     auto comÂngulos = c;

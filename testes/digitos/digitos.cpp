@@ -3,7 +3,7 @@
 /// it must print the same. A second number is made in the same way from the C library's own functions, which
 /// may differ.
 
-#include "simulacao/modelo_vento.h"
+#include "simulacao/lote.h"
 
 #include <bit>
 #include <cmath>

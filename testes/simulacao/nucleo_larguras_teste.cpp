@@ -1,4 +1,4 @@
-#include "simulacao/modelo_vento.h"
+#include "simulacao/lote.h"
 
 #include "apoio/atalhos.h"
 #include "apoio/condicoes_de_teste.h"

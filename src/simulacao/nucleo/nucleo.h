@@ -1,6 +1,7 @@
 #pragma once
 
 #include "simulacao/modelo_vento.h"
+#include "simulacao/nucleo/largura.h"
 
 #include <cstddef>
 
@@ -36,7 +37,7 @@ struct SegmentosDoPerfil {
 /// One set of conditions, made ready. Plain numbers: code that is compiled for one processor must not bring
 /// along functions of the library that others could be given by the linker.
 struct PreparoDoLote {
-    const CondiçõesDoPonto* condições;
+    CondiçõesDoPonto condições;
     Senos senos;
     /// The least x² + y² whose square root isn't below R.
     double foraDoAlcance;
@@ -48,9 +49,13 @@ struct PreparoDoLote {
     double escala; // 360 / `anguloGiro`, or 1 in the full circle
 };
 
-/// Makes ready what the kernels read. False where the conditions are none for them: no finite scale, or a
-/// reach whose square is none of a usual magnitude.
+/// Makes ready what the kernels read but `divisoresConhecidos`, which hangs on the parameters A to F too.
+/// False where the conditions are none for them: no finite scale, or a reach whose square is none of a usual
+/// magnitude.
 bool preparar(const CondiçõesDoPonto& condições, const Senos& senos, PreparoDoLote& preparo);
+
+/// Whether the magnitudes of all constants let known divisors do for true division.
+bool magnitudesUsuais(const CondiçõesDoPonto& condições, double s2);
 
 /// Evaluates the points (x[k], y[k]), 1 to `maiorBloco` of them, into i[k], and adds to `contagem`. False
 /// where one of them may have met an error; then nothing is written, and the points are to be evaluated one
@@ -71,8 +76,5 @@ AvaliarBloco avaliarBloco<512>;
 
 /// That of a width; none for `Largura::escalar`. The processor must have it.
 AvaliarBloco* núcleoDa(Largura largura);
-
-/// Fewer points than this are evaluated one by one: making the batch ready would take longer.
-inline constexpr std::size_t poucosPontos = 4;
 
 } // namespace varenta

@@ -56,12 +56,6 @@ SegmentosDoPerfil segmentosDoPerfil(const PontosDoPerfil& intensidades) {
 
 bool magnitudeUsual(double a) { return std::fabs(a) >= 0x1p-32 && std::fabs(a) <= 0x1p32; }
 
-bool magnitudesUsuais(const CondiçõesDoPonto& c, double s2) {
-    for (const double a : {c.W, c.B, c.D, c.E, c.F, c.R, s2})
-        if (!magnitudeUsual(a)) return false;
-    return std::fabs(c.A) <= 0x1p32 && std::fabs(c.C) <= 0x1p32;
-}
-
 double quadradoForaDoAlcance(double R) {
     double r2 = R * R;
     while (std::sqrt(r2) >= R) r2 = std::nextafter(r2, 0);
@@ -71,14 +65,19 @@ double quadradoForaDoAlcance(double R) {
 
 } // namespace
 
+bool magnitudesUsuais(const CondiçõesDoPonto& c, double s2) {
+    for (const double a : {c.W, c.B, c.D, c.E, c.F, c.R, s2})
+        if (!magnitudeUsual(a)) return false;
+    return std::fabs(c.A) <= 0x1p32 && std::fabs(c.C) <= 0x1p32;
+}
+
 bool preparar(const CondiçõesDoPonto& c, const Senos& senos, PreparoDoLote& preparo) {
+    preparo.condições = c;
+    preparo.senos = senos;
     const bool círculo = c.setor == Setor::círculoInteiro;
     if (!círculo && !std::isfinite(360 / c.anguloGiro)) return false;
     if (!(c.R >= 0x1p-500 && c.R <= 0x1p500)) return false;
-    preparo.condições = &c;
     preparo.foraDoAlcance = quadradoForaDoAlcance(c.R);
-    preparo.senos = senos;
-    preparo.divisoresConhecidos = magnitudesUsuais(c, senos.s2);
     preparo.perfil = segmentosDoPerfil(c.intensidades);
     preparo.escala = círculo ? 1 : 360 / c.anguloGiro;
     if (c.setor == Setor::entreÂngulosSecos)

@@ -68,7 +68,7 @@ Máscara ocupadas(const Bloco& b, std::size_t v) {
 /// A pass of any magnitudes. Apart from the usual one, so that the two don't share the registers.
 [[gnu::noinline, gnu::flatten]] modelo::Passe<Vetor> passeQualquer(Vetor x, Vetor y, Vetor x0, Vetor y0,
                                                                    const PreparoDoLote& p) {
-    return modelo::passeDeNewton(x, y, x0, y0, constantes<Vetor>(*p.condições, p.senos.s2));
+    return modelo::passeDeNewton(x, y, x0, y0, constantes<Vetor>(p.condições, p.senos.s2));
 }
 
 using ConstantesUsuais = modelo::Constantes<Vetor, DivisorConhecido, DivisorRepetido>;
@@ -90,7 +90,7 @@ Começo começo(Vetor x, Vetor y, const ConstantesUsuais& c) {
 
 /// Stage 1: the solutions, in b.x and b.y.
 [[gnu::flatten]] void resolver(Bloco& b, const PreparoDoLote& p, Contas& contas) {
-    const auto c = constantes<Vetor, DivisorConhecido, DivisorRepetido>(*p.condições, p.senos.s2);
+    const auto c = constantes<Vetor, DivisorConhecido, DivisorRepetido>(p.condições, p.senos.s2);
     Lista ativos;
     for (std::size_t v = 0; v < b.vetores; ++v) ativos.juntar(v, ocupadas(b, v));
     const double* x = b.x0;
@@ -142,7 +142,7 @@ Máscara noSetor(Vetor xs, Vetor ys, Máscara candidatas, const PreparoDoLote& p
     molhadas = molhadas & candidatas;
     if (!perto.alguma()) return molhadas;
 
-    const auto& c = *p.condições;
+    const auto& c = p.condições;
     alignas(Registro) double x[faixas], y[faixas], dentro[faixas];
     xs.gravar(x);
     ys.gravar(y);
@@ -155,18 +155,17 @@ Máscara noSetor(Vetor xs, Vetor ys, Máscara candidatas, const PreparoDoLote& p
 
 /// Straight lines between the points of the profile at rho, 0 to 1 in all lanes.
 Vetor noPerfil(Vetor rho, const SegmentosDoPerfil& perfil) {
-    alignas(Registro) double limite[faixas], variação[faixas], largura[faixas], início[faixas], r[faixas];
-    rho.gravar(r);
-    for (std::size_t l = 0; l < faixas; ++l) {
-        // Right, or one too far just below a limit: at the limits themselves the sum is whole or above.
-        auto k = static_cast<unsigned>(r[l] * 20 + 0.5);
-        k -= r[l] < perfil.limite[k];
-        limite[l] = perfil.limite[k];
-        variação[l] = perfil.variação[k];
-        largura[l] = perfil.largura[k];
-        início[l] = perfil.início[k];
+    // The segment, or one too far just below a limit: at the limits themselves the sum is whole or above.
+    const Vetor lugar = rho * Vetor{20} + Vetor{0.5};
+    auto k = truncar(lugar);
+    Vetor limite = deTabela(perfil.limite, k);
+    const Máscara além = rho < limite;
+    if (além.alguma()) {
+        k = truncar(onde(além, lugar - Vetor{1}, lugar));
+        limite = deTabela(perfil.limite, k);
     }
-    return (rho - Vetor::lido(limite)) * Vetor::lido(variação) / Vetor::lido(largura) + Vetor::lido(início);
+    return (rho - limite) * Vetor{deTabela(perfil.variação, k)} / Vetor{deTabela(perfil.largura, k)} +
+           Vetor{deTabela(perfil.início, k)};
 }
 
 /// The solutions within the reach. All intensities are 0 to begin with.
@@ -193,12 +192,12 @@ struct Leitura {
 
 /// In the full circle.
 Leitura leituraNoCírculo(Vetor x, Vetor y, Máscara dentro, const PreparoDoLote& p) {
-    return {sqrt(x * x + y * y) / Vetor{p.condições->R}, dentro};
+    return {sqrt(x * x + y * y) / Vetor{p.condições.R}, dentro};
 }
 
 /// Of the ground point (xs, ys), outside the wedge ahead.
 Leitura leituraSemCunha(Vetor xs, Vetor ys, Máscara dentro, const PreparoDoLote& p, Contas&) {
-    const Vetor R{p.condições->R}, zero{0.0};
+    const Vetor R{p.condições.R}, zero{0.0};
     const Vetor lado = fabs(ys);
     const Máscara seca = (xs > zero) & (lado / R < Vetor{p.cunha.seno}) &
                          (lado * Vetor{p.cunha.cotangente} < xs) & (xs < sqrt(R * R - ys * ys));
@@ -213,7 +212,7 @@ Leitura leituraNoSetor(Vetor xs, Vetor ys, Máscara dentro, const PreparoDoLote&
     // There the quotient of the arc tangent may overflow.
     const Máscara rentes = dentro & (fabs(ys) < Vetor{0x1p-900});
     contas.suspeito |= rentes.alguma();
-    return {sqrt(d2) / Vetor{p.condições->R}, noSetor(xs, ys, dentro & !rentes, p)};
+    return {sqrt(d2) / Vetor{p.condições.R}, noSetor(xs, ys, dentro & !rentes, p)};
 }
 
 /// Those of the list that find water: the relative distances, in b.i.
@@ -236,7 +235,7 @@ Lista molhados(Bloco& b, const Lista& lista, const PreparoDoLote& p, Contas& con
             return ler(x * cosseno + y * seno, y * cosseno - x * seno, dentro, p, contas);
         });
     };
-    switch (p.condições->setor) {
+    switch (p.condições.setor) {
     case Setor::círculoInteiro:
         return molhados(b, lista,
                         [&](Vetor x, Vetor y, Máscara dentro) { return leituraNoCírculo(x, y, dentro, p); });
@@ -256,13 +255,13 @@ Vetor fatorDeÁrea(Vetor x, Vetor y, const Lugar& lugar, const Constantes& c) {
 
 /// The same of any magnitudes.
 [[gnu::noinline, gnu::flatten]] Vetor fatorQualquer(Vetor x, Vetor y, const PreparoDoLote& p) {
-    const auto c = constantes<Vetor>(*p.condições, p.senos.s2);
+    const auto c = constantes<Vetor>(p.condições, p.senos.s2);
     return fatorDeÁrea(x, y, modelo::lugar(x, y, c), c);
 }
 
 /// The intensities of those of the list, in place of their relative distances.
 void intensidades(Bloco& b, const Lista& lista, const PreparoDoLote& p, Contas& contas) {
-    const auto c = constantes<Vetor, DivisorConhecido, DivisorRepetido>(*p.condições, p.senos.s2);
+    const auto c = constantes<Vetor, DivisorConhecido, DivisorRepetido>(p.condições, p.senos.s2);
     const Vetor zero{0.0};
     Máscara ruins = nenhuma();
     for (std::size_t n = 0; n < lista.quantos; ++n) {

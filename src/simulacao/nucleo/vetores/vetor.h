@@ -13,15 +13,21 @@
 namespace varenta {
 namespace {
 
-// The instructions. `Registro` is the register, `Marcas` a truth value for each of its lanes.
+// The instructions. `Registro` is the register, `Inteiros` a whole number and `Marcas` a truth value for each
+// of its lanes. `deTabela` reads the doubles in these places of a table.
 #if VARENTA_BITS == 512
 using Registro = __m512d;
+using Inteiros = __m256i;
 using Marcas = __mmask8;
 inline Registro repetir(double a) { return _mm512_set1_pd(a); }
 inline Registro ler(const double* de) { return _mm512_loadu_pd(de); }
 inline void gravar(double* em, Registro a) { _mm512_storeu_pd(em, a); }
 inline Registro raiz(Registro a) { return _mm512_maskz_sqrt_pd(0xff, a); }
 inline Registro módulo(Registro a) { return _mm512_abs_pd(a); }
+inline Inteiros truncar(Registro a) { return _mm512_maskz_cvttpd_epi32(0xff, a); }
+inline Registro deTabela(const double* tabela, Inteiros k) {
+    return _mm512_mask_i32gather_pd(_mm512_setzero_pd(), 0xff, k, tabela, 8);
+}
 inline Registro vezesMais(Registro a, Registro b, Registro c) { return _mm512_fmadd_pd(a, b, c); }
 inline Marcas menor(Registro a, Registro b) { return _mm512_cmp_pd_mask(a, b, _CMP_LT_OQ); }
 inline Marcas menorOuIgual(Registro a, Registro b) { return _mm512_cmp_pd_mask(a, b, _CMP_LE_OQ); }
@@ -35,12 +41,18 @@ inline unsigned contar(Marcas a) { return static_cast<unsigned>(__builtin_popcou
 inline Registro escolher(Marcas m, Registro sim, Registro não) { return _mm512_mask_blend_pd(m, não, sim); }
 #elif VARENTA_BITS == 256
 using Registro = __m256d;
+using Inteiros = __m128i;
 using Marcas = __m256d;
 inline Registro repetir(double a) { return _mm256_set1_pd(a); }
 inline Registro ler(const double* de) { return _mm256_loadu_pd(de); }
 inline void gravar(double* em, Registro a) { _mm256_storeu_pd(em, a); }
 inline Registro raiz(Registro a) { return _mm256_sqrt_pd(a); }
 inline Registro módulo(Registro a) { return _mm256_andnot_pd(_mm256_set1_pd(-0.0), a); }
+inline Inteiros truncar(Registro a) { return _mm256_cvttpd_epi32(a); }
+inline Registro deTabela(const double* tabela, Inteiros k) {
+    const Registro zero = _mm256_setzero_pd();
+    return _mm256_mask_i32gather_pd(zero, tabela, k, _mm256_cmp_pd(zero, zero, _CMP_EQ_OQ), 8);
+}
 inline Registro vezesMais(Registro a, Registro b, Registro c) { return _mm256_fmadd_pd(a, b, c); }
 inline Marcas menor(Registro a, Registro b) { return _mm256_cmp_pd(a, b, _CMP_LT_OQ); }
 inline Marcas menorOuIgual(Registro a, Registro b) { return _mm256_cmp_pd(a, b, _CMP_LE_OQ); }
@@ -54,12 +66,17 @@ inline unsigned contar(Marcas a) { return static_cast<unsigned>(__builtin_popcou
 inline Registro escolher(Marcas m, Registro sim, Registro não) { return _mm256_blendv_pd(não, sim, m); }
 #else
 using Registro = __m128d;
+using Inteiros = __m128i;
 using Marcas = __m128d;
 inline Registro repetir(double a) { return _mm_set1_pd(a); }
 inline Registro ler(const double* de) { return _mm_loadu_pd(de); }
 inline void gravar(double* em, Registro a) { _mm_storeu_pd(em, a); }
 inline Registro raiz(Registro a) { return _mm_sqrt_pd(a); }
 inline Registro módulo(Registro a) { return _mm_andnot_pd(_mm_set1_pd(-0.0), a); }
+inline Inteiros truncar(Registro a) { return _mm_cvttpd_epi32(a); }
+inline Registro deTabela(const double* tabela, Inteiros k) {
+    return _mm_setr_pd(tabela[_mm_cvtsi128_si32(k)], tabela[_mm_cvtsi128_si32(_mm_srli_si128(k, 4))]);
+}
 inline Marcas menor(Registro a, Registro b) { return _mm_cmplt_pd(a, b); }
 inline Marcas menorOuIgual(Registro a, Registro b) { return _mm_cmple_pd(a, b); }
 inline Marcas igual(Registro a, Registro b) { return _mm_cmpeq_pd(a, b); }
@@ -122,6 +139,9 @@ struct Vetor {
 
 /// `sim` in the lanes where `m` is true, `não` in the others.
 inline Vetor onde(Máscara m, Vetor sim, Vetor não) { return escolher(m.m, sim.v, não.v); }
+
+/// The whole part of each lane.
+inline Inteiros truncar(Vetor a) { return truncar(a.v); }
 
 /// False in all lanes.
 inline Máscara nenhuma() { return Vetor{0.0} < Vetor{0.0}; }
