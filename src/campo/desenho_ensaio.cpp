@@ -3,6 +3,7 @@
 #include "aspersor/desenho_coletores.h"
 
 #include <algorithm>
+#include <cmath>
 #include <cstdint>
 #include <limits>
 
@@ -20,13 +21,17 @@ void desenharCarreador(Desenho& desenho) {
     desenho.larguraTraco(1);
 }
 
+/// Half of the test's extension across the lane and along it, in metres.
+struct Extensão {
+    double lado, frente;
+};
+
 /// Pixels a metre: what both directions have room for.
-double escala(const ArranjoDoEnsaio& a) {
-    const auto cabe = [](double metade, double extensão) {
-        return extensão > 0 ? metade / extensão : std::numeric_limits<double>::max();
+double escala(const Extensão& extensão) {
+    const auto cabe = [](double metade, double metros) {
+        return metros > 0 ? metade / metros : std::numeric_limits<double>::max();
     };
-    return std::min(cabe(meiaLargura, (a.coletores - 0.5) * a.espaço),
-                    cabe(meiaAltura, (a.linhas - 1) * a.distância / 2));
+    return std::min(cabe(meiaLargura, extensão.lado), cabe(meiaAltura, extensão.frente));
 }
 
 } // namespace
@@ -34,15 +39,18 @@ double escala(const ArranjoDoEnsaio& a) {
 void desenharEnsaioMóvel(Desenho& desenho, const ArranjoDoEnsaio& arranjo) {
     desenho.limpar();
     desenharCarreador(desenho);
-    // Spacings that are no lengths yet leave the lane alone.
+    // Spacings that are no lengths yet leave the lane alone, as do those that no drawing can hold.
     if (arranjo.espaço <= 0 || arranjo.distância <= 0) return;
-    const double pixels = escala(arranjo);
+    const Extensão extensão{(arranjo.coletores - 0.5) * arranjo.espaço,
+                            (arranjo.linhas - 1) * arranjo.distância / 2};
+    const double pixels = escala(extensão);
+    if (!std::isfinite(extensão.lado * pixels) || !std::isfinite(extensão.frente * pixels)) return;
     // More collectors would only be a bar, and cost the memory of their strokes.
     constexpr int maisColetores = 10'000;
     const bool distinguíveis = std::int64_t{arranjo.linhas} * arranjo.coletores <= maisColetores;
     for (int k = 0; k < arranjo.linhas; ++k) {
         const double y = meio + (k - (arranjo.linhas - 1) / 2.0) * arranjo.distância * pixels;
-        const double alcance = (arranjo.coletores - 0.5) * arranjo.espaço * pixels;
+        const double alcance = extensão.lado * pixels;
         desenho.linha(centro - alcance, y, centro + alcance, y, cores::preto);
         if (!distinguíveis) continue;
         for (int j = 1; j <= arranjo.coletores; ++j) {

@@ -293,6 +293,13 @@ TEST_F(EnsaioDeCampo, UmaDistânciaQueNãoÉComprimentoDeixaSóOCarreador) {
     EXPECT_EQ(formEC->Picture1.traços.size(), 3U);
 }
 
+TEST_F(EnsaioDeCampo, UmaDistânciaQueNenhumDesenhoAlcançaDeixaSóOCarreador) {
+    escolher(formEC, "Combo1", "7");
+    digitar(formEC, "Combo2", "1e308"); // 6 spaces of 1e308 m are past the largest double
+    atos::confirmar();
+    EXPECT_EQ(formEC->Picture1.traços.size(), 3U);
+}
+
 TEST_F(EnsaioDeCampo, LimparEsvaziaCaixasECélulasEDeixaAsListas) {
     for (const auto* nome :
          {"Text6", "Text8", "Text13", "Text11", "Text12", "Text9", "Text1", "Text7", "Text2", "Text3"})
