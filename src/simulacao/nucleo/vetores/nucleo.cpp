@@ -261,21 +261,29 @@ Vetor fatorDeÁrea(Vetor x, Vetor y, const Lugar& lugar, const Constantes& c) {
 
 /// The intensities of those of the list, in place of their relative distances.
 void intensidades(Bloco& b, const Lista& lista, const PreparoDoLote& p, Contas& contas) {
+    if (lista.quantos == 0) return;
     const auto c = constantes<Vetor, DivisorConhecido, DivisorRepetido>(p.condições, p.senos.s2);
     const Vetor zero{0.0};
     Máscara ruins = nenhuma();
+    const auto começar = [&](std::size_t n) {
+        const std::size_t k = lista.vetor[n] * faixas;
+        return começo(Vetor::lido(b.x + k), Vetor::lido(b.y + k), c);
+    };
+    auto este = começar(0);
     for (std::size_t n = 0; n < lista.quantos; ++n) {
+        const auto seguinte = começar(n + 1 < lista.quantos ? n + 1 : n);
+        nãoAdiar(seguinte.lugar.q);
         const std::size_t k = lista.vetor[n] * faixas;
         const Vetor x = Vetor::lido(b.x + k), y = Vetor::lido(b.y + k);
-        const auto [lugar, usual] = começo(x, y, c);
-        Vetor fator = fatorDeÁrea(x, y, lugar, c);
-        if (!usual || !p.divisoresConhecidos || duvidoso(fator)) fator = fatorQualquer(x, y, p);
+        Vetor fator = fatorDeÁrea(x, y, este.lugar, c);
+        if (!este.usual || !p.divisoresConhecidos || duvidoso(fator)) fator = fatorQualquer(x, y, p);
         const Vetor i = noPerfil(Vetor::lido(b.i + k), p.perfil) * Vetor{p.escala};
         const Máscara molhadas = lista.faixas[n] & !(i == zero);
         const Vetor valor = i / fator;
         ruins = ruins | (molhadas & !(finitas(valor) & finitas(fator)));
         onde(molhadas, valor, zero).gravar(b.i + k);
         contas.fatorNãoPositivo += (molhadas & !(fator > zero)).quantas();
+        este = seguinte;
     }
     contas.suspeito |= ruins.alguma();
 }
