@@ -111,8 +111,8 @@ ArquivoDeMalha lerMalha(LeitorDeLinhas& leitor) {
     return arquivo;
 }
 
-ArquivoMóvel lerMóvel(LeitorDeLinhas& leitor) {
-    ArquivoMóvel arquivo;
+ArquivoDeEnsaioMóvel lerMóvel(LeitorDeLinhas& leitor) {
+    ArquivoDeEnsaioMóvel arquivo;
     lerAspersor(leitor, arquivo);
     arquivo.velocidade = leitor.próxima();
     númeroNãoNulo(arquivo.velocidade);
@@ -143,6 +143,6 @@ Arquivo lerArquivo(const std::string& caminho, Arquivo (*ler)(LeitorDeLinhas&)) 
 
 ArquivoDeMalha lerArquivoDeMalha(const std::string& caminho) { return lerArquivo(caminho, lerMalha); }
 
-ArquivoMóvel lerArquivoMóvel(const std::string& caminho) { return lerArquivo(caminho, lerMóvel); }
+ArquivoDeEnsaioMóvel lerArquivoMóvel(const std::string& caminho) { return lerArquivo(caminho, lerMóvel); }
 
 } // namespace varenta

@@ -9,6 +9,7 @@ namespace varenta {
 namespace {
 
 constexpr int usoErrado = 2;
+constexpr std::string_view opçãoDeProgresso = "--progresso";
 
 bool éOpção(const std::string& argumento) { return argumento.starts_with('-') && argumento != "-"; }
 
@@ -16,7 +17,6 @@ bool éOpção(const std::string& argumento) { return argumento.starts_with('-')
 
 int executarLinhaDeComando(const std::vector<std::string>& argumentos, std::istream& entrada,
                            std::ostream& saída, std::ostream& erros) {
-    constexpr std::string_view opçãoDeProgresso = "--progresso";
     std::vector<std::string> arquivos;
     std::ranges::remove_copy_if(argumentos, std::back_inserter(arquivos), éOpção);
     const bool opçõesConhecidas = std::ranges::all_of(

@@ -131,7 +131,9 @@ class ArquivoDeEnsaioMóvel : public testing::Test {
     const Textos válidas = {"Modelo", "18 x 6", "50",  "24", "29.13", "40", "210",     "2",   "6",
                             "1",      "1.5",    "2.5", "90", "2",     "8",  "1\t2.25", "3\t4"};
 
-    ArquivoMóvel ler(const Textos& linhas) { return lerArquivoMóvel(pasta.gravar("m.TXT", unir(linhas))); }
+    ArquivoDeEnsaioMóvel ler(const Textos& linhas) {
+        return lerArquivoMóvel(pasta.gravar("m.TXT", unir(linhas)));
+    }
     std::string recusaCom(std::size_t linha, const std::string& texto) {
         auto linhas = válidas;
         linhas.at(linha - 1) = texto;
