@@ -31,6 +31,9 @@ int contagem(const std::string& linha) {
     return paraInteiro(x);
 }
 
+/// The positions of a row of so many collectors must be numbers that the grid's headers can show.
+void exigirPosições(int coletores, double espaço) { finito(coletores * espaço); }
+
 std::string nãoVazia(std::string linha) {
     if (linha.empty()) recusar();
     return linha;
@@ -103,6 +106,7 @@ ArquivoDeMalha lerMalha(LeitorDeLinhas& leitor) {
     lerAspersor(leitor, arquivo);
     arquivo.N = contagem(leitor.próxima());
     arquivo.e = númeroNãoNulo(leitor.próxima());
+    exigirPosições(arquivo.N, arquivo.e);
     lerVento(leitor, arquivo);
     arquivo.modo = modo(leitor.próxima(), 3);
     if (arquivo.modo >= 2) arquivo.tempo = nãoVazia(leitor.próxima());
@@ -121,6 +125,7 @@ ArquivoDeEnsaioMóvel lerMóvel(LeitorDeLinhas& leitor) {
     arquivo.eL = númeroNãoNulo(leitor.próxima());
     arquivo.cadaLado = contagem(leitor.próxima());
     arquivo.eC = númeroNãoNulo(leitor.próxima());
+    exigirPosições(2 * arquivo.cadaLado, arquivo.eC);
     lerVento(leitor, arquivo);
     arquivo.modo = modo(leitor.próxima(), 2);
     if (arquivo.modo == 2) arquivo.diâmetro = nãoVazia(leitor.próxima());

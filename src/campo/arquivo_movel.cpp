@@ -32,9 +32,9 @@ constexpr std::array pisos = {
     PisoDeColetores{3, 2, "O número de coletores em cada linha deve ser maior que 2"},
     PisoDeColetores{6, 1, "O número de coletores em cada linha deve ser maior que 1!"}};
 
-std::string próximaNumérica(LeitorDeLinhas& leitor) {
+std::string próximaPositiva(LeitorDeLinhas& leitor) {
     auto linha = leitor.próxima();
-    if (!éNumérico(linha)) throw ArquivoRecusado{};
+    if (!éNumérico(linha) || lerEstrito(linha) <= 0) throw ArquivoRecusado{};
     return linha;
 }
 
@@ -63,7 +63,7 @@ void lerCabeçalho(LeitorDeLinhas& leitor) {
     for (auto* caixa : {&f.Text6, &f.Text8, &f.Text13, &f.Text1, &f.Text12, &f.Text11, &f.Text9})
         definirTexto(*caixa, leitor.próxima());
     for (auto* lista : {&f.Combo1, &f.Combo2, &f.Combo3, &f.Combo4})
-        definirLista(*lista, próximaNumérica(leitor));
+        definirLista(*lista, próximaPositiva(leitor));
     definirTexto(f.Text2, leitor.próxima());
     definirTexto(f.Text3, leitor.próxima());
     lerUnidade(leitor);

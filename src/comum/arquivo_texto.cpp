@@ -158,7 +158,8 @@ void escreverTudo(int arquivo, std::string_view bytes) {
 
 std::string decodificar(std::string_view bytes) {
     if (éUtf8(bytes)) {
-        if (bytes.starts_with("\xEF\xBB\xBF")) bytes.remove_prefix(3);
+        // More than one would come back as the first line's text, and be lost when that is saved and read.
+        while (bytes.starts_with("\xEF\xBB\xBF")) bytes.remove_prefix(3);
         return std::string{bytes};
     }
     std::string texto;
