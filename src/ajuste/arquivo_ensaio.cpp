@@ -115,8 +115,8 @@ ArquivoDeMalha lerMalha(LeitorDeLinhas& leitor) {
     return arquivo;
 }
 
-ArquivoDeEnsaioMóvel lerMóvel(LeitorDeLinhas& leitor) {
-    ArquivoDeEnsaioMóvel arquivo;
+ArquivoMóvelComVento lerMóvel(LeitorDeLinhas& leitor) {
+    ArquivoMóvelComVento arquivo;
     lerAspersor(leitor, arquivo);
     arquivo.velocidade = leitor.próxima();
     númeroNãoNulo(arquivo.velocidade);
@@ -148,6 +148,6 @@ Arquivo lerArquivo(const std::string& caminho, Arquivo (*ler)(LeitorDeLinhas&)) 
 
 ArquivoDeMalha lerArquivoDeMalha(const std::string& caminho) { return lerArquivo(caminho, lerMalha); }
 
-ArquivoDeEnsaioMóvel lerArquivoMóvel(const std::string& caminho) { return lerArquivo(caminho, lerMóvel); }
+ArquivoMóvelComVento lerArquivoMóvel(const std::string& caminho) { return lerArquivo(caminho, lerMóvel); }
 
 } // namespace varenta

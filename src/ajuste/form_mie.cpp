@@ -76,7 +76,7 @@ void voltarAosPadrões(int n) {
     MIErro_plan(n);
 }
 
-void preencher(int n, const ArquivoDeEnsaioMóvel& arquivo) {
+void preencher(int n, const ArquivoMóvelComVento& arquivo) {
     auto& f = *form_MiE(n).operator->();
     escreverAspersorDoArquivo(f, arquivo);
     definirTexto(f.Text1, arquivo.velocidade);

@@ -32,9 +32,15 @@ constexpr std::array pisos = {
     PisoDeColetores{3, 2, "O número de coletores em cada linha deve ser maior que 2"},
     PisoDeColetores{6, 1, "O número de coletores em cada linha deve ser maior que 1!"}};
 
-std::string próximaPositiva(LeitorDeLinhas& leitor) {
+std::string próximaNumérica(LeitorDeLinhas& leitor) {
     auto linha = leitor.próxima();
-    if (!éNumérico(linha) || lerEstrito(linha) <= 0) throw ArquivoRecusado{};
+    if (!éNumérico(linha)) throw ArquivoRecusado{};
+    return linha;
+}
+
+std::string próximaPositiva(LeitorDeLinhas& leitor) {
+    auto linha = próximaNumérica(leitor);
+    if (lerEstrito(linha) <= 0) throw ArquivoRecusado{};
     return linha;
 }
 
@@ -62,8 +68,10 @@ void lerCabeçalho(LeitorDeLinhas& leitor) {
     auto& f = *formEC.operator->();
     for (auto* caixa : {&f.Text6, &f.Text8, &f.Text13, &f.Text1, &f.Text12, &f.Text11, &f.Text9})
         definirTexto(*caixa, leitor.próxima());
-    for (auto* lista : {&f.Combo1, &f.Combo2, &f.Combo3, &f.Combo4})
-        definirLista(*lista, próximaPositiva(leitor));
+    definirLista(f.Combo1, próximaNumérica(leitor));
+    definirLista(f.Combo2, próximaPositiva(leitor));
+    definirLista(f.Combo3, próximaNumérica(leitor)); // what refuses a small one tells how many it takes
+    definirLista(f.Combo4, próximaPositiva(leitor));
     definirTexto(f.Text2, leitor.próxima());
     definirTexto(f.Text3, leitor.próxima());
     lerUnidade(leitor);
