@@ -32,6 +32,9 @@ int contagem(const std::string& linha) {
     return paraInteiro(x);
 }
 
+/// The positions of a row of so many collectors must be numbers that the grid's headers can show.
+void exigirPosições(int coletores, double espaço) { finito(coletores * espaço); }
+
 std::string nãoVazia(std::string linha) {
     if (linha.empty()) recusar();
     return linha;
@@ -104,6 +107,7 @@ ArquivoDeMalha lerMalha(LeitorDeLinhas& leitor) {
     lerAspersor(leitor, arquivo);
     arquivo.N = contagem(leitor.próxima());
     arquivo.e = númeroNãoNulo(leitor.próxima());
+    exigirPosições(arquivo.N, arquivo.e);
     lerVento(leitor, arquivo);
     arquivo.modo = modo(leitor.próxima(), 3);
     if (arquivo.modo >= 2) arquivo.tempo = nãoVazia(leitor.próxima());
@@ -112,8 +116,8 @@ ArquivoDeMalha lerMalha(LeitorDeLinhas& leitor) {
     return arquivo;
 }
 
-ArquivoMóvel lerMóvel(LeitorDeLinhas& leitor) {
-    ArquivoMóvel arquivo;
+ArquivoMóvelComVento lerMóvel(LeitorDeLinhas& leitor) {
+    ArquivoMóvelComVento arquivo;
     lerAspersor(leitor, arquivo);
     arquivo.velocidade = leitor.próxima();
     númeroNãoNulo(arquivo.velocidade);
@@ -122,6 +126,7 @@ ArquivoMóvel lerMóvel(LeitorDeLinhas& leitor) {
     arquivo.eL = númeroNãoNulo(leitor.próxima());
     arquivo.cadaLado = contagem(leitor.próxima());
     arquivo.eC = númeroNãoNulo(leitor.próxima());
+    exigirPosições(2 * arquivo.cadaLado, arquivo.eC);
     lerVento(leitor, arquivo);
     arquivo.modo = modo(leitor.próxima(), 2);
     if (arquivo.modo == 2) arquivo.diâmetro = nãoVazia(leitor.próxima());
@@ -144,6 +149,6 @@ Arquivo lerArquivo(const std::string& caminho, Arquivo (*ler)(LeitorDeLinhas&)) 
 
 ArquivoDeMalha lerArquivoDeMalha(const std::string& caminho) { return lerArquivo(caminho, lerMalha); }
 
-ArquivoMóvel lerArquivoMóvel(const std::string& caminho) { return lerArquivo(caminho, lerMóvel); }
+ArquivoMóvelComVento lerArquivoMóvel(const std::string& caminho) { return lerArquivo(caminho, lerMóvel); }
 
 } // namespace varenta

@@ -32,7 +32,7 @@ struct ArquivoDeMalha : ArquivoDeEnsaio {
     std::string tempo; // as the file has it; empty where the mode needs none
 };
 
-struct ArquivoMóvel : ArquivoDeEnsaio {
+struct ArquivoMóvelComVento : ArquivoDeEnsaio {
     std::string velocidade;       // as the file has it
     double anguloGiro = 0;        // degrees, 180 to 360
     int linhas = 0, cadaLado = 0; // lines of collectors, collectors on each side
@@ -41,6 +41,6 @@ struct ArquivoMóvel : ArquivoDeEnsaio {
 
 /// Reads a file whole. Raise `EnsaioRecusado`.
 ArquivoDeMalha lerArquivoDeMalha(const std::string& caminho);
-ArquivoMóvel lerArquivoMóvel(const std::string& caminho);
+ArquivoMóvelComVento lerArquivoMóvel(const std::string& caminho);
 
 } // namespace varenta

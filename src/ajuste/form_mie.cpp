@@ -74,7 +74,7 @@ void voltarAosPadrões(int n) {
     marcar(form_MiE(n), f.Option2);
 }
 
-void preencher(int n, const ArquivoMóvel& arquivo) {
+void preencher(int n, const ArquivoMóvelComVento& arquivo) {
     auto& f = *form_MiE(n).operator->();
     escreverAspersorDoArquivo(f, arquivo);
     definirTexto(f.Text1, arquivo.velocidade);

@@ -39,6 +39,12 @@ std::string próximaNumérica(LeitorDeLinhas& leitor) {
     return linha;
 }
 
+std::string próximaPositiva(LeitorDeLinhas& leitor) {
+    auto linha = próximaNumérica(leitor);
+    if (lerEstrito(linha) <= 0) throw ArquivoRecusado{};
+    return linha;
+}
+
 /// A value for a list is the item with that number, and otherwise stands as text. The grid is made when all
 /// four lists have theirs: on the way it might be asked for a size that neither the old nor the new ones
 /// have.
@@ -60,8 +66,10 @@ void lerCabeçalho(LeitorDeLinhas& leitor) {
     auto& f = *formEC.operator->();
     for (auto* caixa : {&f.Text6, &f.Text8, &f.Text13, &f.Text1, &f.Text12, &f.Text11, &f.Text9})
         definirTexto(*caixa, leitor.próxima());
-    for (auto* lista : {&f.Combo1, &f.Combo2, &f.Combo3, &f.Combo4})
-        definirLista(*lista, próximaNumérica(leitor));
+    definirLista(f.Combo1, próximaNumérica(leitor));
+    definirLista(f.Combo2, próximaPositiva(leitor));
+    definirLista(f.Combo3, próximaNumérica(leitor)); // what refuses a small one tells how many it takes
+    definirLista(f.Combo4, próximaPositiva(leitor));
     const double linhas = lerEstrito(f.Combo1.texto), coletores = lerEstrito(f.Combo3.texto);
     if (!recusaDoTamanho(2 * coletores, linhas).empty()) throw ArquivoRecusado{};
     definirTexto(f.Text2, leitor.próxima());

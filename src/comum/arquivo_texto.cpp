@@ -262,7 +262,8 @@ void falharNoLimiteDeTamanho() { std::signal(SIGXFSZ, SIG_IGN); }
 
 std::string decodificar(std::string_view bytes) {
     if (éUtf8(bytes)) {
-        if (bytes.starts_with("\xEF\xBB\xBF")) bytes.remove_prefix(3);
+        // More than one would come back as the first line's text, and be lost when that is saved and read.
+        while (bytes.starts_with("\xEF\xBB\xBF")) bytes.remove_prefix(3);
         return std::string{bytes};
     }
     std::string texto;

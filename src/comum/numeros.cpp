@@ -2,6 +2,7 @@
 
 #include "comum/erro_execucao.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <cmath>
@@ -17,7 +18,11 @@ bool éDígito(char c) { return c >= '0' && c <= '9'; }
 
 struct Lido {
     double valor;
+    /// Past the largest double.
+    bool estoura;
     std::string_view resto;
+
+    bool éTudo() const { return std::ranges::all_of(resto, éEspaço); }
 };
 
 /// Whether a decimal numeral that no double holds is too large for one (and not too small): the place of its
@@ -63,35 +68,35 @@ std::optional<Lido> lerNumeral(std::string_view texto) {
     const std::string_view numeral = texto.substr(início, p - início);
     double valor = 0;
     const auto [fim, erro] = std::from_chars(numeral.data(), numeral.data() + numeral.size(), valor);
-    if (erro == std::errc::result_out_of_range) {
-        if (éGrandeDemais(numeral)) throw ErroExecucao{estouro};
-        valor = 0;
-    }
-    return Lido{negativo ? -valor : valor, texto.substr(p)};
+    const bool foraDaFaixa = erro == std::errc::result_out_of_range;
+    if (foraDaFaixa) valor = 0;
+    return Lido{negativo ? -valor : valor, foraDaFaixa && éGrandeDemais(numeral), texto.substr(p)};
+}
+
+double exigirValor(const Lido& lido) {
+    if (lido.estoura) throw ErroExecucao{estouro};
+    return lido.valor;
 }
 
 } // namespace
 
 double lerPrefixo(std::string_view texto) {
     const auto lido = lerNumeral(texto);
-    return lido ? lido->valor : 0;
+    return lido ? exigirValor(*lido) : 0;
 }
 
 double lerEstrito(std::string_view texto) {
     const auto lido = lerNumeral(texto);
     if (!lido) throw ErroExecucao{tiposIncompatíveis};
-    for (const char c : lido->resto)
-        if (!éEspaço(c)) throw ErroExecucao{tiposIncompatíveis};
-    return lido->valor;
+    const double valor = exigirValor(*lido);
+    if (!lido->éTudo()) throw ErroExecucao{tiposIncompatíveis};
+    return valor;
 }
 
 bool éNumérico(std::string_view texto) {
-    try {
-        lerEstrito(texto);
-        return true;
-    } catch (const ErroExecucao&) {
-        return false;
-    }
+    // Asked of every cell of a grid, most of them empty: without raising anything.
+    const auto lido = lerNumeral(texto);
+    return lido && !lido->estoura && lido->éTudo();
 }
 
 std::string Format(double valor, std::string_view padrão) {

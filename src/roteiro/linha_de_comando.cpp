@@ -11,6 +11,7 @@ namespace varenta {
 namespace {
 
 constexpr int usoErrado = 2;
+constexpr std::string_view opçãoDeProgresso = "--progresso";
 
 constexpr const char* uso = "uso: varenta-roteiro [--progresso] ARQUIVO…\n"
                             "Executa cada roteiro contra o sistema recém-iniciado; - é a entrada padrão.\n"
@@ -34,7 +35,6 @@ int executarLinhaDeComando(const std::vector<std::string>& argumentos, std::istr
         saída << "varenta-roteiro " VARENTA_VERSAO "\n";
         return saída.flush() ? Interprete::concluído : Interprete::falha;
     }
-    constexpr std::string_view opçãoDeProgresso = "--progresso";
     std::vector<std::string> arquivos;
     std::ranges::remove_copy_if(argumentos, std::back_inserter(arquivos), éOpção);
     const bool opçõesConhecidas = std::ranges::all_of(

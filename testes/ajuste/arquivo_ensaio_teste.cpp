@@ -91,7 +91,7 @@ TEST_F(ArquivoDeEnsaioDeMalha, AceitaLfSemFimEComLinhasEmBrancoNoFim) {
 TEST_F(ArquivoDeEnsaioDeMalha, RecusaCadaLinhaErradaDoComeço) {
     for (const auto& [linha, textos] :
          std::vector<std::pair<std::size_t, Textos>>{{6, {"", "x", "0", "-2", "2.5"}},
-                                                     {7, {"", "x", "0"}},
+                                                     {7, {"", "x", "0", "1e308"}},
                                                      {8, {"", "x", "-0.1", "10.5"}},
                                                      {9, {"", "x", "-1", "361"}},
                                                      {10, {"", "x", "0", "4", "1.5"}},
@@ -131,7 +131,9 @@ class ArquivoDeEnsaioMóvel : public testing::Test {
     const Textos válidas = {"Modelo", "18 x 6", "50",  "24", "29.13", "40", "210",     "2",   "6",
                             "1",      "1.5",    "2.5", "90", "2",     "8",  "1\t2.25", "3\t4"};
 
-    ArquivoMóvel ler(const Textos& linhas) { return lerArquivoMóvel(pasta.gravar("m.TXT", unir(linhas))); }
+    ArquivoMóvelComVento ler(const Textos& linhas) {
+        return lerArquivoMóvel(pasta.gravar("m.TXT", unir(linhas)));
+    }
     std::string recusaCom(std::size_t linha, const std::string& texto) {
         auto linhas = válidas;
         linhas.at(linha - 1) = texto;
@@ -162,7 +164,7 @@ TEST_F(ArquivoDeEnsaioMóvel, RecusaCadaLinhaErrada) {
                                                      {8, {"", "x", "0"}},
                                                      {9, {"", "x", "0"}},
                                                      {10, {"", "x", "0"}},
-                                                     {11, {"", "x", "0"}},
+                                                     {11, {"", "x", "0", "1e308"}},
                                                      {12, {"", "x", "-1", "10.5"}},
                                                      {13, {"", "x", "-1", "361"}},
                                                      {14, {"", "x", "0", "3"}},

@@ -553,6 +553,9 @@ TEST_F(ArquivoDoEnsaioDeCampo, LinhasQueNãoSãoQuantidadesSãoRecusadas) {
     esperarQueNãoAbre(semLeituras + "0\r\n6\r\n3\r\n2\r\n\r\n\r\n1\r\n");
     esperarQueNãoAbre(semLeituras + "1\r\n6\r\n-3\r\n4\r\n\r\n\r\n1\r\n");
     esperarQueNãoAbre(semLeituras + "1\r\n6\r\n2000000000\r\n2\r\n\r\n\r\n1\r\n");
+    // Spacings that nothing could be set out at, though the readings do.
+    for (const auto* espaços : {"1\r\n0\r\n3\r\n2", "1\r\n6\r\n3\r\n-2", "1\r\n6\r\n3\r\n0"})
+        esperarQueNãoAbre(semLeituras + espaços + "\r\n\r\n\r\n1\r\n1\r\n2\r\n3\r\n4\r\n5\r\n6");
 }
 
 TEST_F(ArquivoDoEnsaioDeCampo, ContagensQueNãoCabemNaPlanilhaSãoRecusadasAntesDela) {

@@ -29,6 +29,7 @@ TEST(Decodificar, TiraAMarcaDeOrdemSóDoInício) {
                           "Vazão"),
               "Vazão");
     EXPECT_EQ(decodificar("\xEF\xBB\xBF"), "");
+    EXPECT_EQ(decodificar("\xEF\xBB\xBF\xEF\xBB\xBF"), "");
     EXPECT_EQ(decodificar("a\xEF\xBB\xBF"
                           "b"),
               "a\xEF\xBB\xBF"

@@ -1,0 +1,52 @@
+#!/usr/bin/env bash
+# Fuzzes every reader: ./ferramentas/fuzz_longo.sh 60s (so many seconds each) or 100000 (so many executions each).
+# Two at a time. Prints the executions of each; what fails is kept in build/fuzz/achados/, and the status is 1.
+set -euo pipefail
+. "$(dirname "$0")/preparar.sh"
+
+quanto=${1:-60s}
+case $quanto in
+*s) limite=(-max_total_time="${quanto%s}") ;;
+*) limite=(-runs="$quanto") ;;
+esac
+ensaios=(radial campo malha movel parametros roteiro prefixo estrito)
+
+cmake -S . -B build/fuzz -G Ninja -DCMAKE_CXX_COMPILER=clang++ -DCMAKE_BUILD_TYPE=Debug \
+    -DCMAKE_CXX_FLAGS_DEBUG="-O1 -D_GLIBCXX_ASSERTIONS" -DVARENTA_FUZZ=ON -DVARENTA_TESTES=OFF -DVARENTA_JANELAS=OFF >/dev/null
+cmake --build build/fuzz
+mkdir -p build/fuzz/achados
+
+fuzzar() {
+    local ensaio=$1 registro=build/fuzz/$1.log
+    mkdir -p "build/fuzz/novos/$ensaio"
+    # Short inputs reach everything and run sooner. Leaks are looked for where the tests run under the sanitizers.
+    ASAN_OPTIONS=malloc_context_size=1 "build/fuzz/testes/fuzz/fuzz_$ensaio" "${limite[@]}" -max_len=600 -timeout=20 \
+        -rss_limit_mb=2048 -detect_leaks=0 -entropic=0 -verbosity=0 -print_final_stats=1 \
+        -artifact_prefix="build/fuzz/achados/$ensaio-" "build/fuzz/novos/$ensaio" "testes/fuzz/corpos/$ensaio" \
+        >"$registro" 2>&1 || { echo "$ensaio: falhou" && grep -v '^stat::' "$registro" | head -40 && return 1; }
+}
+
+falhou=0
+em_curso=0
+for ensaio in "${ensaios[@]}"; do
+    if [ "$em_curso" -eq 2 ]; then
+        wait -n || falhou=1
+        em_curso=1
+    fi
+    fuzzar "$ensaio" &
+    em_curso=$((em_curso + 1))
+done
+while [ "$em_curso" -gt 0 ]; do
+    wait -n || falhou=1
+    em_curso=$((em_curso - 1))
+done
+
+soma=0
+for ensaio in "${ensaios[@]}"; do
+    execucoes=$(sed -n 's/^stat::number_of_executed_units: *//p' "build/fuzz/$ensaio.log")
+    por_segundo=$(sed -n 's/^stat::average_exec_per_sec: *//p' "build/fuzz/$ensaio.log")
+    printf '%-11s %12s execuções %8s por segundo\n' "$ensaio" "${execucoes:-0}" "${por_segundo:-0}"
+    soma=$((soma + ${execucoes:-0}))
+done
+printf '%-11s %12s execuções\n' total "$soma"
+exit "$falhou"
