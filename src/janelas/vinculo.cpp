@@ -5,9 +5,9 @@
 #include "janelas/comandos_da_figura.h"
 #include "janelas/janelas.h"
 #include "janelas/linha_de_entrada.h"
-#include "janelas/texto_digitado.h"
 #include "janelas/linha_de_estado.h"
 #include "janelas/moldura_do_foco.h"
+#include "janelas/texto_digitado.h"
 #include "janelas/widget_desenho.h"
 #include "janelas/widget_tabela.h"
 
