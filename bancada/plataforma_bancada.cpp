@@ -20,6 +20,7 @@ bool perguntar(std::string_view texto) { parar(texto); }
 void avisar(std::string_view) {}
 void mostrarAmpulheta(bool) {}
 void progresso(double, std::string_view) {}
+void respirar() {}
 void erroDeExecucao(std::string_view texto) { parar(texto); }
 std::optional<std::string> arquivoParaAbrir(const DialogoArquivo& diálogo) { parar(diálogo.filtro); }
 std::optional<std::string> arquivoParaSalvar(const DialogoArquivo& diálogo) { parar(diálogo.filtro); }

@@ -312,6 +312,7 @@ void ajuda(std::optional<int> tópico) {
     anotar("ajuda: ", tópico ? std::to_string(*tópico) : "índice");
 }
 
+void respirar() {}
 void progresso(double, std::string_view) {
     if (Interprete::ativo()) throw ErroDeRoteiro{"uma operação demorada"};
 }
