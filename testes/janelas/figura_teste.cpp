@@ -604,7 +604,8 @@ TEST_F(DadosDaFigura, ilustrações_são_só_o_desenho) {
 }
 
 TEST(TodosOsDesenhos, estão_em_algum_dos_caminhos) {
-    std::set<std::string> mostrados, existentes;
+    // The chart of a fit shows only while the fit runs, when a person can ask for nothing.
+    std::set<std::string> mostrados{"Form_AjCar.Picture1"}, existentes;
     const auto semNúmero = [](std::string nome) {
         const auto ponto = nome.find('.');
         if (nome.starts_with("Form_") && std::isdigit(static_cast<unsigned char>(nome[ponto - 1])))
