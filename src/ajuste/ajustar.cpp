@@ -4,6 +4,7 @@
 #include "ajuste/form_graf.h"
 #include "ajuste/form_migraf.h"
 #include "ajuste/ler_ensaio.h"
+#include "ajuste/resultados.h"
 #include "comum/erro_execucao.h"
 #include "comum/numeros.h"
 #include "comum/plataforma.h"
@@ -41,7 +42,7 @@ std::vector<Ensaio> lerEnsaios(const TelaDeAjuste& tela, const AspersorDoAjuste&
     std::vector<std::string> fatores;
     for (int n = 1; n <= ensaiosEmUso(tela.controles); ++n) {
         ensaios.push_back(ler(n, aspersor));
-        fatores.push_back(Format(igualarÀVazão(ensaios.back(), aspersor.Q), "0.000"));
+        fatores.push_back(Format(igualarEnsaioÀVazão(n, ensaios.back(), aspersor.Q), "0.000"));
     }
     informarFatores(fatores);
     return ensaios;
@@ -53,22 +54,22 @@ ResultadoDaBusca buscar(const std::vector<Ensaio>& ensaios, double tolerância, 
     ContagemDoModelo contagem;
     std::size_t pontos = 0;
     for (const auto& ensaio : ensaios) pontos += ensaio.X.size();
-    try {
-        return buscarParametros(andamento.vigiar(objetivoDosEnsaios(ensaios, contagem), pontos), tolerância,
-                                andamento.ouvinte());
-    } catch (const ErroExecucao& e) {
-        throw ErroExecucao{e.what() + std::string{": o ajuste não pôde continuar com estes ensaios. Em geral "
-                                                  "ajuda informar um vento acima de 0 m/s e coletores que "
-                                                  "alcancem além da área molhada, nenhum deles no lugar do "
-                                                  "aspersor."}};
-    }
+    return explicarErro(
+        "o ajuste não pôde continuar com estes ensaios. Em geral ajuda informar um vento acima de 0 m/s e "
+        "coletores que alcancem além da área molhada, nenhum deles no lugar do aspersor.",
+        [&] {
+            return buscarParametros(andamento.vigiar(objetivoDosEnsaios(ensaios, contagem), pontos),
+                                    tolerância, andamento.ouvinte());
+        });
 }
 
 void escreverResultado(const TelaDeAjuste& tela, const ResultadoDaBusca& resultado, double R) {
     std::array<std::string, 6> textos;
     for (std::size_t k = 0; k < textos.size(); ++k) textos[k] = Format(dividir(resultado.p[k], R), "0.0000");
+    esconderResultados();
     const auto rótulos = tela.controles.resultados();
     for (std::size_t k = 0; k < textos.size(); ++k) rótulos[k]->texto = textos[k];
+    anotarAjuste(tela.aspersor);
     plataforma::mensagem("O melhor ajuste apresentou um desvio médio igual a " +
                          Format(resultado.desvio, "0.000") + " mm/h");
 }

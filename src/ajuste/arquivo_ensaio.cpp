@@ -1,5 +1,6 @@
 #include "ajuste/arquivo_ensaio.h"
 
+#include "ajuste/cabecalhos.h"
 #include "comum/arquivo_texto.h"
 #include "comum/erro_execucao.h"
 #include "comum/limites.h"
@@ -22,6 +23,11 @@ double númeroNãoNulo(const std::string& linha) {
     return x;
 }
 
+double espaçamento(const std::string& linha) {
+    númeroNãoNulo(linha);
+    return númeroEntre(linha, -maiorEspaçamento, maiorEspaçamento);
+}
+
 constexpr auto grandeDemais = "O arquivo é muito grande!";
 
 /// A count of collectors or lines, at least 1.
@@ -31,9 +37,6 @@ int contagem(const std::string& linha) {
     if (x > maiorContagem) throw EnsaioRecusado{grandeDemais};
     return paraInteiro(x);
 }
-
-/// The positions of a row of so many collectors must be numbers that the grid's headers can show.
-void exigirPosições(int coletores, double espaço) { finito(coletores * espaço); }
 
 std::string nãoVazia(std::string linha) {
     if (linha.empty()) recusar();
@@ -106,8 +109,7 @@ ArquivoDeMalha lerMalha(LeitorDeLinhas& leitor) {
     ArquivoDeMalha arquivo;
     lerAspersor(leitor, arquivo);
     arquivo.N = contagem(leitor.próxima());
-    arquivo.e = númeroNãoNulo(leitor.próxima());
-    exigirPosições(arquivo.N, arquivo.e);
+    arquivo.e = espaçamento(leitor.próxima());
     lerVento(leitor, arquivo);
     arquivo.modo = modo(leitor.próxima(), 3);
     if (arquivo.modo >= 2) arquivo.tempo = nãoVazia(leitor.próxima());
@@ -123,10 +125,9 @@ ArquivoMóvelComVento lerMóvel(LeitorDeLinhas& leitor) {
     númeroNãoNulo(arquivo.velocidade);
     arquivo.anguloGiro = númeroEntre(leitor.próxima(), 180, 360);
     arquivo.linhas = contagem(leitor.próxima());
-    arquivo.eL = númeroNãoNulo(leitor.próxima());
+    arquivo.eL = espaçamento(leitor.próxima());
     arquivo.cadaLado = contagem(leitor.próxima());
-    arquivo.eC = númeroNãoNulo(leitor.próxima());
-    exigirPosições(2 * arquivo.cadaLado, arquivo.eC);
+    arquivo.eC = espaçamento(leitor.próxima());
     lerVento(leitor, arquivo);
     arquivo.modo = modo(leitor.próxima(), 2);
     if (arquivo.modo == 2) arquivo.diâmetro = nãoVazia(leitor.próxima());

@@ -8,6 +8,9 @@
 /// sprinkler or from its lane. Rows and columns beyond the test have none.
 namespace varenta {
 
+/// The largest spacing (m) of collectors that a test may have: the headers have room for its positions.
+inline constexpr int maiorEspaçamento = 1000;
+
 /// N x N collectors every `e` m: columns from left to right, called "Co" with or without a blank before it,
 /// rows from ahead to behind.
 void escreverCabeçalhosDaMalha(Grade& grade, std::string_view coluna, int N, double e);

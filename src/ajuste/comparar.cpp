@@ -40,7 +40,7 @@ Estimativa<Ensaio> compararComOMostrado(Aspersor aspersor, int n,
                                         Ensaio (*ler)(int, const AspersorDoAjuste&)) {
     const auto dados = lerAspersor(telaDeAjuste(aspersor));
     auto ensaio = ler(n, dados);
-    igualarÀVazão(ensaio, dados.Q);
+    igualarEnsaioÀVazão(n, ensaio, dados.Q);
     return estimarComOMostrado(aspersor, std::move(ensaio), dados.R);
 }
 
@@ -49,6 +49,12 @@ template <class Ensaio>
 Estimativa<Ensaio> estimarSemLeituras(Aspersor aspersor, int n, Ensaio (*ler)(int, const AspersorDoAjuste&)) {
     const auto dados = lerAspersor(telaDeAjuste(aspersor));
     return estimarComOMostrado(aspersor, ler(n, dados), dados.R);
+}
+
+template <class Registro>
+bool estimativasAceitas(Tela<Registro>& tela, int n) {
+    auto& f = *tela.operator->();
+    return aceito(recusaDasEstimativas(f, n), {tela, f, n}, TextoRecusado::sai);
 }
 
 /// At least 0.
@@ -167,7 +173,7 @@ void preencherMIgraf(Aspersor aspersor, int n) {
 }
 
 void visualizarValores(Aspersor aspersor, int n) {
-    if (!aceito(recusaDasEstimativas(*form_E(n).operator->(), n), form_E(n))) return;
+    if (!estimativasAceitas(form_E(n), n)) return;
     const auto [ensaio, estimados] = estimarSemLeituras(aspersor, n, lerMalhaSemLeituras);
     auto& f = *form_ajuste1.operator->();
     f.Caption = "Dados de Precipitação Estimados no Ensaio " + std::to_string(n);
@@ -181,7 +187,7 @@ void visualizarValores(Aspersor aspersor, int n) {
 }
 
 void visualizarValoresMóvel(Aspersor aspersor, int n) {
-    if (!aceito(recusaDasEstimativas(*form_MiE(n).operator->(), n), form_MiE(n))) return;
+    if (!estimativasAceitas(form_MiE(n), n)) return;
     const auto [ensaio, intensidades] = estimarSemLeituras(aspersor, n, lerMóvelSemLeituras);
     const auto lâminas = lâminasEstimadas(ensaio, intensidades);
     auto& f = *form_MIajuste1.operator->();

@@ -3,6 +3,7 @@
 #include "comum/tela.h"
 
 #include <array>
+#include <string>
 
 namespace varenta {
 
@@ -43,6 +44,10 @@ struct ControlesDeAjuste {
 
     /// A/R to F/R.
     Rotulo Label18, Label19, Label21, Label23, Label25, Label27;
+    /// What these are to be read with, a line each.
+    Rotulo lblAviso;
+    /// Nozzles and pressure that these were fitted with; empty where there are none.
+    std::string ajustadoCom;
 
     Botao Command7{.texto = "Salvar Parâmetros", .habilitado = false};
     Botao Command1{.texto = "&Fechar"};
@@ -86,6 +91,7 @@ struct ControlesDeAjuste {
         visita("Label23", Label23);
         visita("Label25", Label25);
         visita("Label27", Label27);
+        visita("lblAviso", lblAviso);
         visita("Command7", Command7);
         visita("Command1", Command1);
         visita("Command2", Command2);

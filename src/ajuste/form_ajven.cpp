@@ -1,6 +1,7 @@
 #include "ajuste/form_ajven.h"
 
 #include "ajuste/operacoes_ajuste.h"
+#include "ajuste/resultados.h"
 #include "aspersor/grafico_perfil_radial.h"
 #include "comum/ajuda.h"
 #include "comum/arquivo_texto.h"
@@ -74,6 +75,7 @@ void form_AjVen_MouseMove() { form_AjVen.ponteiro = Ponteiro::padrão; }
 void form_AjVen_seleção_Change() {
     escreverPressão(seleçãoDeFormAjVen());
     atualizarAspersor(seleçãoDeFormAjVen());
+    mostrarAvisos(Aspersor::doCatálogo);
 }
 
 void form_AjVen_unidade_Click() { escreverPressão(seleçãoDeFormAjVen()); }

@@ -30,7 +30,7 @@ void montarPlanilha(RegistroFormE& f, int lado) {
 /// readings and lose their headers, until a list is picked from.
 void digitarTamanho(int n) {
     auto& f = *form_E(n).operator->();
-    if (!éContagem(f.Combo2)) return;
+    if (!éContagem(f.Combo2) || !cabeNosCabeçalhos(f.Combo1)) return;
     const int lado = std::max(inteiroDaLista(f.Combo2) + 1, f.flex_A.linhas);
     montarPlanilha(f, lado);
 }
@@ -46,12 +46,16 @@ void escolherEspaçamento(int n) {
 void escolherTamanho(int n) {
     auto& f = *form_E(n).operator->();
     corrigirLista(f.Combo2, éContagem(f.Combo2), "14");
+    corrigirLista(f.Combo1, cabeNosCabeçalhos(f.Combo1), "6.0");
     Erro_plan(n);
 }
 
+/// The boxes in sight tell the unit from before: one that is set again empties none of them.
 void escolherUnidade(int n) {
     auto& f = *form_E(n).operator->();
-    f.Label8.visivel = f.Text6.visivel = !f.Option1.marcada;
+    const bool comTempo = !f.Option1.marcada, comDiâmetro = f.Option3.marcada;
+    if (f.Text6.visivel == comTempo && f.Text7.visivel == comDiâmetro) return;
+    f.Label8.visivel = f.Text6.visivel = comTempo;
     definirTexto(f.Text6, "");
     mostrarDiâmetro(f);
 }
@@ -110,7 +114,7 @@ std::string textoDoArquivo(RegistroFormE& f, const FichaDoAspersor& ficha) {
 void salvar(int n, Aspersor aspersor) {
     auto& f = *form_E(n).operator->();
     confirmarEntrada(f);
-    if (aceito(recusaDoSalvamento(f, n), form_E(n)))
+    if (aceito(recusaDoSalvamento(f, n), {form_E(n), f, n}, TextoRecusado::fica))
         salvarArquivoDeEnsaio(textoDoArquivo(f, fichaDoAspersor(aspersor)));
 }
 

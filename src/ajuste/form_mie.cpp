@@ -38,18 +38,19 @@ void montarPlanilha(RegistroFormMiE& f, int linhas, int colunas) {
 /// readings and lose their headers, until a list is picked from.
 void digitarTamanho(int n) {
     auto& f = *form_MiE(n).operator->();
-    if (!éContagem(f.Combo1) || !éContagem(f.Combo3)) return;
+    if (!éContagem(f.Combo1) || !éContagem(f.Combo3) || !cabeNosCabeçalhos(f.Combo4)) return;
     const int linhas = std::max(2 * inteiroDaLista(f.Combo3) + 1, f.flex_A.linhas);
     const int colunas = std::max(inteiroDaLista(f.Combo1) + 1, f.flex_A.colunas);
     montarPlanilha(f, linhas, colunas);
 }
 
-/// One of the lists was picked from: it must show a number, and so must those that size the grid.
+/// One of the lists was picked from: it must show a number, and so must those that make the grid.
 void escolher(int n, Lista& lista, const char* padrão) {
     auto& f = *form_MiE(n).operator->();
     corrigirLista(lista, éNumérico(lista.texto), padrão);
     corrigirLista(f.Combo1, éContagem(f.Combo1), "3");
     corrigirLista(f.Combo3, éContagem(f.Combo3), "20");
+    corrigirLista(f.Combo4, cabeNosCabeçalhos(f.Combo4), "2.0");
     MIErro_plan(n);
 }
 
@@ -118,7 +119,7 @@ std::string textoDoArquivo(RegistroFormMiE& f, const FichaDoAspersor& ficha) {
 void salvar(int n, Aspersor aspersor) {
     auto& f = *form_MiE(n).operator->();
     confirmarEntrada(f);
-    if (aceito(recusaDoSalvamento(f, n), form_MiE(n)))
+    if (aceito(recusaDoSalvamento(f, n), {form_MiE(n), f, n}, TextoRecusado::fica))
         salvarArquivoDeEnsaio(textoDoArquivo(f, fichaDoAspersor(aspersor)));
 }
 

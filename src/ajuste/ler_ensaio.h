@@ -2,7 +2,8 @@
 
 #include "ajuste/ensaio.h"
 
-/// Reads the tests from their screens, by the numbers' prefixes.
+/// Reads the tests from their screens, by the numbers' prefixes. A run-time error says after its name what to
+/// look at.
 namespace varenta {
 
 /// The test of `Form_E1` to `Form_E3`, the readings in mm/h. Raises "Divisão por zero" for a time or a
@@ -18,5 +19,8 @@ EnsaioMóvel lerEnsaioMóvel(int n, const AspersorDoAjuste& aspersor);
 
 /// The same without any readings.
 EnsaioMóvel lerMóvelSemLeituras(int n, const AspersorDoAjuste& aspersor);
+
+/// `igualarÀVazão` for the test `n`.
+double igualarEnsaioÀVazão(int n, EnsaioDoAjuste& ensaio, float Q);
 
 } // namespace varenta

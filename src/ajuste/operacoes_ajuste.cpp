@@ -8,7 +8,7 @@
 #include "ajuste/form_graf.h"
 #include "ajuste/form_mie.h"
 #include "ajuste/form_migraf.h"
-#include "ajuste/operacoes_ensaio.h"
+#include "ajuste/resultados.h"
 #include "ajuste/verificacoes_ensaio.h"
 #include "comum/numeros.h"
 #include "comum/plataforma.h"
@@ -22,7 +22,7 @@ template <class Registro>
 bool ensaioAceito(Tela<Registro>& tela, int n) {
     auto& f = *tela.operator->();
     confirmarEntrada(f);
-    return aceito(recusaDoAjuste(f, n), tela);
+    return aceito(recusaDoAjuste(f, n), {tela, f, n}, TextoRecusado::sai);
 }
 
 template <class Registro>
@@ -39,16 +39,6 @@ bool vazãoAceita(Aspersor aspersor, const Rotulo& vazão) {
     return false;
 }
 
-/// The comparisons and the lists of estimates, once the parameters that they show are gone.
-void esconderResultados() {
-    for (int n = 1; n <= 3; ++n) {
-        form_graf(n).esconder();
-        form_MIgraf(n).esconder();
-    }
-    form_ajuste1.esconder();
-    form_MIajuste1.esconder();
-}
-
 void habilitarResultados(ControlesDeAjuste& controles, Método método) {
     controles.Command7.habilitado = true;
     const auto botões = botõesDoMétodo(controles, método);
@@ -60,6 +50,8 @@ void habilitarResultados(ControlesDeAjuste& controles, Método método) {
 
 void escolherQuantidade(Aspersor aspersor, int ensaios) {
     auto& c = telaDeAjuste(aspersor).controles;
+    // The buttons tell the number from before.
+    if (ensaios == 1 + c.Command3.habilitado + c.Command6.habilitado) return;
     for (const auto método : métodos) {
         const auto botões = botõesDoMétodo(c, método);
         botões.ensaios[1]->habilitado = ensaios >= 2;
@@ -68,6 +60,7 @@ void escolherQuantidade(Aspersor aspersor, int ensaios) {
     }
     c.Command7.habilitado = false;
     for (auto* rótulo : c.resultados()) rótulo->texto.clear();
+    esquecerAjuste(aspersor);
     esconderResultados();
 }
 

@@ -5,7 +5,8 @@
 /// What the screens of a fit do, for either kind of sprinkler. Tests are counted from 1.
 namespace varenta {
 
-/// The number of tests is chosen: the buttons of the other tests can't be used, and the last result is gone.
+/// The number of tests is chosen: if it is another one, the buttons of the other tests can't be used, and the
+/// last result is gone.
 void escolherQuantidade(Aspersor aspersor, int ensaios);
 
 void abrirEnsaioDeMalha(Aspersor aspersor, int n);

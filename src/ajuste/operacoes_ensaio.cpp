@@ -1,5 +1,6 @@
 #include "ajuste/operacoes_ensaio.h"
 
+#include "ajuste/cabecalhos.h"
 #include "ajuste/verificacoes_ensaio.h"
 #include "comum/arquivo_texto.h"
 #include "comum/erro_execucao.h"
@@ -9,6 +10,8 @@
 #include "comum/plataforma.h"
 #include "simulacao/diagrama.h"
 #include "simulacao/modelo_vento.h"
+
+#include <cmath>
 
 namespace varenta {
 
@@ -58,6 +61,7 @@ void mostrarEntrada(ControlesDeEnsaio& controles, bool mostra) {
 }
 
 void mostrarDiâmetro(ControlesDeEnsaio& controles) {
+    if (controles.Text7.visivel == controles.Option3.marcada) return;
     controles.Label14.visivel = controles.Text7.visivel = controles.Option3.marcada;
     definirTexto(controles.Text7, "");
 }
@@ -68,9 +72,17 @@ bool éContagem(const Lista& lista) {
     return x >= 1 && x <= maiorContagem;
 }
 
+bool cabeNosCabeçalhos(const Lista& lista) {
+    try {
+        return std::fabs(lerPrefixo(lista.texto)) <= maiorEspaçamento;
+    } catch (const ErroExecucao&) {
+        return false; // past the largest double
+    }
+}
+
 void corrigirLista(Lista& lista, bool aceita, const char* padrão) {
     if (aceita) return;
-    plataforma::mensagem(valorInválido);
+    plataforma::mensagem("Valor inválido!");
     definirTexto(lista, padrão);
 }
 

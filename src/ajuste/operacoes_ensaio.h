@@ -38,11 +38,14 @@ void dimensionarPlanilha(ControlesDeEnsaio& controles, int linhas, int colunas);
 /// Shows or hides the entry line with its labels. Where it shows it takes the current cell's text.
 void mostrarEntrada(ControlesDeEnsaio& controles, bool mostra);
 
-/// Shows the diameter of the collector for readings in volume only, and empties it.
+/// Shows the diameter of the collector for readings in volume only, and empties it where that changes.
 void mostrarDiâmetro(ControlesDeEnsaio& controles);
 
 /// Whether the list shows a number of collectors or lines that a grid can be made of.
 bool éContagem(const Lista& lista);
+
+/// Whether headers have room for the spacing that the list shows, whatever it is besides.
+bool cabeNosCabeçalhos(const Lista& lista);
 
 /// Answers a list whose text is not accepted: tells so, and sets the text back to `padrão`.
 void corrigirLista(Lista& lista, bool aceita, const char* padrão);

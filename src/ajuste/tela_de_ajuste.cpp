@@ -48,10 +48,10 @@ FichaDoAspersor fichaDoOutro() {
 TelaDeAjuste telaDeAjuste(Aspersor aspersor) {
     if (aspersor == Aspersor::doCatálogo) {
         auto& f = *form_AjVen.operator->();
-        return {form_AjVen, f, f.lblVazão};
+        return {aspersor, form_AjVen, f, f.lblVazão};
     }
     auto& f = *form_AjvenOu.operator->();
-    return {form_AjvenOu, f, f.Label17};
+    return {aspersor, form_AjvenOu, f, f.Label17};
 }
 
 FichaDoAspersor fichaDoAspersor(Aspersor aspersor) {

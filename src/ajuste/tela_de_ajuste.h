@@ -10,6 +10,7 @@ namespace varenta {
 
 /// The screen from which a fit of one kind of sprinkler runs.
 struct TelaDeAjuste {
+    Aspersor aspersor;
     TelaBase& tela;
     ControlesDeAjuste& controles;
     const Rotulo& vazão; // m³/h

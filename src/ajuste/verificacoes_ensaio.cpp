@@ -1,6 +1,6 @@
 #include "ajuste/verificacoes_ensaio.h"
 
-#include "ajuste/arquivo_ensaio.h"
+#include "ajuste/cabecalhos.h"
 #include "comum/limites.h"
 #include "comum/numeros.h"
 #include "comum/operacoes.h"
@@ -28,8 +28,8 @@ Recusa recusaDasCélulas(const Grade& grade, int linhas, int colunas, const Mens
     for (int l = 1; l <= linhas; ++l)
         for (int c = 1; c <= colunas; ++c) {
             const auto texto = leituraDaCélula(grade, l, c);
-            if (texto.empty()) return RecusaDeEnsaio{mensagens.vazia};
-            if (!éNumérico(texto)) return RecusaDeEnsaio{mensagens.nãoNumérica};
+            if (texto.empty()) return RecusaDeEnsaio{mensagens.vazia, CélulaDoEnsaio{l, c}};
+            if (!éNumérico(texto)) return RecusaDeEnsaio{mensagens.nãoNumérica, CélulaDoEnsaio{l, c}};
         }
     return std::nullopt;
 }
@@ -45,10 +45,10 @@ const MensagensDasCélulas aoSalvar = {"Existem células em branco na planilha, 
 
 /// Before saving: all of these boxes are filled, and hold numbers.
 Recusa recusaDasCaixas(std::initializer_list<CaixaTexto*> caixas, const char* ausente, const char* inválido) {
-    for (const auto* caixa : caixas)
-        if (caixa->texto.empty()) return RecusaDeEnsaio{ausente};
-    for (const auto* caixa : caixas)
-        if (!éNumérico(caixa->texto)) return RecusaDeEnsaio{inválido};
+    for (auto* caixa : caixas)
+        if (caixa->texto.empty()) return RecusaDeEnsaio{ausente, caixa};
+    for (auto* caixa : caixas)
+        if (!éNumérico(caixa->texto)) return RecusaDeEnsaio{inválido, caixa};
     return std::nullopt;
 }
 
@@ -57,21 +57,41 @@ Recusa recusaDoTempoOuDiâmetro(std::initializer_list<CaixaTexto*> caixas) {
                            "Valor numérico de tempo ou diâmetro do coletor inválido!");
 }
 
-/// What a reader of the file would refuse as a number of collectors or lines.
-Recusa recusaDasContagens(std::initializer_list<const Lista*> listas) {
-    for (const auto* lista : listas) {
-        if (!éNumérico(lista->texto)) return RecusaDeEnsaio{valorInválido};
-        const double x = lerEstrito(lista->texto);
-        if (x < 1 || x > maiorContagem || x != Int(x)) return RecusaDeEnsaio{valorInválido};
-    }
-    return std::nullopt;
+/// A list with the name that messages give it.
+struct ListaDoEnsaio {
+    const Lista& lista;
+    const char* nome;
+};
+
+RecusaDeEnsaio recusaDaLista(const ListaDoEnsaio& lista, int n, const std::string& exigência) {
+    return {lista.nome + (" do Ensaio " + std::to_string(n)) + " deve ser " + exigência + "!", &lista.lista};
 }
 
-/// The spacings of the grid. What the lists offer passes always.
-Recusa recusaDosEspaçamentos(std::initializer_list<const Lista*> listas) {
-    for (const auto* lista : listas)
-        if (!éNumérico(lista->texto) || nãoÉPositivo(lista->texto)) return RecusaDeEnsaio{valorInválido};
-    return std::nullopt;
+/// What a reader of the file would refuse as a number of collectors or lines.
+Recusa recusaDaContagem(const ListaDoEnsaio& lista, int n) {
+    const auto& texto = lista.lista.texto;
+    if (éContagem(lista.lista) && lerEstrito(texto) == Int(lerEstrito(texto))) return std::nullopt;
+    return recusaDaLista(lista, n, "um número inteiro de 1 a " + std::to_string(maiorContagem));
+}
+
+/// What the lists of spacings offer passes always.
+Recusa recusaDoEspaçamento(const ListaDoEnsaio& lista, int n) {
+    const auto& texto = lista.lista.texto;
+    if (éNumérico(texto) && !nãoÉPositivo(texto) && cabeNosCabeçalhos(lista.lista)) return std::nullopt;
+    return recusaDaLista(lista, n, "um número maior que 0 e até " + std::to_string(maiorEspaçamento) + " m");
+}
+
+Recusa recusaDosColetores(const RegistroFormMiE& f, int n) {
+    return recusaDaContagem({f.Combo3, "O número de coletores em cada lado"}, n);
+}
+
+Recusa recusaDasLinhasEDosColetores(const RegistroFormMiE& f, int n) {
+    const auto recusa = recusaDaContagem({f.Combo1, "O número de linhas (L)"}, n);
+    return recusa ? recusa : recusaDosColetores(f, n);
+}
+
+Recusa recusaDoEspaçoEntreColetores(const RegistroFormMiE& f, int n) {
+    return recusaDoEspaçamento({f.Combo4, "O espaço entre coletores (eC)"}, n);
 }
 
 constexpr auto diâmetroInválido = "Valor de diâmetro do coletor inválido";
@@ -88,7 +108,7 @@ Recusa recusaDaVelocidade(CaixaTexto& caixa, int n) {
 
 Recusa recusaSeGiroNãoNumérico(const Lista& lista, int n) {
     if (éNumérico(lista.texto)) return std::nullopt;
-    return RecusaDeEnsaio{doEnsaio(giroInválido, n)};
+    return RecusaDeEnsaio{doEnsaio(giroInválido, n), &lista};
 }
 
 Recusa recusaDoGiro(const Lista& lista, int n) {
@@ -96,7 +116,21 @@ Recusa recusaDoGiro(const Lista& lista, int n) {
     const double g = lerEstrito(lista.texto);
     if (g >= 180 && g <= 360) return std::nullopt;
     return RecusaDeEnsaio{"Ensaio " + std::to_string(n) +
-                          ": o ângulo de giro do aspersor deve estar entre 180 - 360º!"};
+                              ": o ângulo de giro do aspersor deve estar entre 180 - 360º!",
+                          &lista};
+}
+
+/// The cell becomes the current one. A number typed may ask for cells that the grid lacks.
+void irParaRecusada(const TelaDeEnsaio& ensaio, const CélulaDoEnsaio& célula) {
+    const auto planilha = planilhaDoEnsaio(ensaio.controles);
+    const auto& grade = planilha.grade;
+    if (célula.linha >= grade.linhas || célula.coluna >= grade.colunas) return;
+    irParaCélula(planilha, célula.linha, célula.coluna);
+    if (!ensaio.tela.visivel) return;
+    if (planilha.digitação)
+        receberFoco(planilha);
+    else
+        focar(grade);
 }
 
 } // namespace
@@ -114,8 +148,8 @@ Recusa recusaDoAjuste(RegistroFormE& f, int n) {
 Recusa recusaDoAjuste(RegistroFormMiE& f, int n) {
     if (f.Option3.marcada)
         if (const auto recusa = recusaSeNãoNumérico(f.Text7, diâmetroInválido, n)) return recusa;
-    auto recusa = recusaDasContagens({&f.Combo1, &f.Combo3});
-    if (!recusa) recusa = recusaDosEspaçamentos({&f.Combo4});
+    auto recusa = recusaDasLinhasEDosColetores(f, n);
+    if (!recusa) recusa = recusaDoEspaçoEntreColetores(f, n);
     if (!recusa)
         recusa =
             recusaDasCélulas(f.flex_A, 2 * inteiroDaLista(f.Combo3), inteiroDaLista(f.Combo1), aoAjustar(n));
@@ -124,14 +158,14 @@ Recusa recusaDoAjuste(RegistroFormMiE& f, int n) {
     return recusa;
 }
 
-Recusa recusaDasEstimativas(RegistroFormE& f, int) {
-    const auto recusa = recusaDasContagens({&f.Combo2});
-    return recusa ? recusa : recusaDosEspaçamentos({&f.Combo1});
+Recusa recusaDasEstimativas(RegistroFormE& f, int n) {
+    const auto recusa = recusaDaContagem({f.Combo2, "O número de coletores"}, n);
+    return recusa ? recusa : recusaDoEspaçamento({f.Combo1, "O espaçamento"}, n);
 }
 
 Recusa recusaDasEstimativas(RegistroFormMiE& f, int n) {
-    auto recusa = recusaDasContagens({&f.Combo3});
-    if (!recusa) recusa = recusaDosEspaçamentos({&f.Combo4});
+    auto recusa = recusaDosColetores(f, n);
+    if (!recusa) recusa = recusaDoEspaçoEntreColetores(f, n);
     if (!recusa) recusa = recusaDaVelocidade(f.Text1, n);
     if (!recusa) recusa = recusaDoGiro(f.Combo6, n);
     return recusa;
@@ -152,21 +186,28 @@ Recusa recusaDoSalvamento(RegistroFormE& f, int n) {
 Recusa recusaDoSalvamento(RegistroFormMiE& f, int n) {
     Recusa recusa;
     if (f.Option3.marcada) recusa = recusaDoTempoOuDiâmetro({&f.Text7});
-    if (!recusa) recusa = recusaDasContagens({&f.Combo1, &f.Combo3});
-    if (!recusa) recusa = recusaDosEspaçamentos({&f.Combo2, &f.Combo4});
+    if (!recusa) recusa = recusaDasLinhasEDosColetores(f, n);
+    if (!recusa) recusa = recusaDoEspaçamento({f.Combo2, "A distância entre linhas (eL)"}, n);
+    if (!recusa) recusa = recusaDoEspaçoEntreColetores(f, n);
     if (!recusa)
         recusa = recusaDasCélulas(f.flex_A, 2 * inteiroDaLista(f.Combo3), inteiroDaLista(f.Combo1), aoSalvar);
-    if (!recusa && !éNumérico(f.Text1.texto)) recusa = RecusaDeEnsaio{doEnsaio(velocidadeInválida, n)};
+    if (!recusa) recusa = recusaSeNãoNumérico(f.Text1, velocidadeInválida, n);
     if (!recusa) recusa = recusaSeGiroNãoNumérico(f.Combo6, n);
     return recusa;
 }
 
-bool aceito(const Recusa& recusa, const TelaBase& tela) {
+bool aceito(const Recusa& recusa, const TelaDeEnsaio& ensaio, TextoRecusado texto) {
     if (!recusa) return true;
     plataforma::mensagem(recusa->mensagem);
-    if (recusa->caixa) {
-        definirTexto(*recusa->caixa, "");
-        if (tela.visivel) focar(*recusa->caixa);
+    if (const auto* célula = std::get_if<CélulaDoEnsaio>(&recusa->lugar)) {
+        irParaRecusada(ensaio, *célula);
+        return false;
+    }
+    if (auto* const* caixa = std::get_if<CaixaTexto*>(&recusa->lugar)) {
+        if (texto == TextoRecusado::sai) definirTexto(**caixa, "");
+        if (ensaio.tela.visivel) focar(**caixa);
+    } else if (ensaio.tela.visivel) {
+        focar(*std::get<const Lista*>(recusa->lugar));
     }
     return false;
 }

@@ -2,19 +2,23 @@
 
 #include "ajuste/form_e.h"
 #include "ajuste/form_mie.h"
+#include "ajuste/operacoes_ensaio.h"
 
 #include <optional>
 #include <string>
+#include <variant>
 
 /// What keeps a test from being fitted or saved. The first refusal counts.
 namespace varenta {
 
-inline constexpr auto valorInválido = "Valor inválido!";
+struct CélulaDoEnsaio {
+    int linha, coluna;
+};
 
 struct RecusaDeEnsaio {
     std::string mensagem;
-    /// The box that holds the offending text; null where it is no box.
-    CaixaTexto* caixa = nullptr;
+    /// What holds the offending text.
+    std::variant<CaixaTexto*, const Lista*, CélulaDoEnsaio> lugar;
 };
 
 /// Before a fit, or the comparison with one, of the test `n`.
@@ -29,9 +33,12 @@ std::optional<RecusaDeEnsaio> recusaDasEstimativas(RegistroFormMiE& f, int n);
 std::optional<RecusaDeEnsaio> recusaDoSalvamento(RegistroFormE& f, int n);
 std::optional<RecusaDeEnsaio> recusaDoSalvamento(RegistroFormMiE& f, int n);
 
-/// Tells a refusal, empties the offending box and gives it the focus, if it shows. Returns whether there was
-/// none.
-bool aceito(const std::optional<RecusaDeEnsaio>& recusa, const TelaBase& tela);
+/// What becomes of the text in a refused box.
+enum class TextoRecusado { sai, fica };
+
+/// Tells a refusal and leads to its place: a box or a list gets the focus, a cell becomes the current one,
+/// and its entry line gets the focus. A hidden screen gets none. Returns whether there was no refusal.
+bool aceito(const std::optional<RecusaDeEnsaio>& recusa, const TelaDeEnsaio& ensaio, TextoRecusado texto);
 
 /// The reading in a cell; empty outside the grid, which may be smaller than a number typed says.
 std::string leituraDaCélula(const Grade& grade, int linha, int coluna);

@@ -91,13 +91,14 @@ TEST_F(ArquivoDeEnsaioDeMalha, AceitaLfSemFimEComLinhasEmBrancoNoFim) {
 TEST_F(ArquivoDeEnsaioDeMalha, RecusaCadaLinhaErradaDoComeço) {
     for (const auto& [linha, textos] :
          std::vector<std::pair<std::size_t, Textos>>{{6, {"", "x", "0", "-2", "2.5"}},
-                                                     {7, {"", "x", "0", "1e308"}},
+                                                     {7, {"", "x", "0", "1e308", "1000.1", "-1001"}},
                                                      {8, {"", "x", "-0.1", "10.5"}},
                                                      {9, {"", "x", "-1", "361"}},
                                                      {10, {"", "x", "0", "4", "1.5"}},
                                                      {11, {""}},
                                                      {12, {""}}})
         for (const auto& texto : textos) EXPECT_EQ(recusaCom(linha, texto), nãoAbre) << linha << ' ' << texto;
+    EXPECT_EQ(recusaCom(7, "1000"), "");
     EXPECT_EQ(recusaCom(8, "10"), "");
     EXPECT_EQ(recusaCom(8, "0"), "");
     EXPECT_EQ(recusaCom(9, "360"), "");
@@ -162,9 +163,9 @@ TEST_F(ArquivoDeEnsaioMóvel, RecusaCadaLinhaErrada) {
          std::vector<std::pair<std::size_t, Textos>>{{6, {"", "N/E", "0"}},
                                                      {7, {"", "N/E", "170", "179.9", "361"}},
                                                      {8, {"", "x", "0"}},
-                                                     {9, {"", "x", "0"}},
+                                                     {9, {"", "x", "0", "1e300"}},
                                                      {10, {"", "x", "0"}},
-                                                     {11, {"", "x", "0", "1e308"}},
+                                                     {11, {"", "x", "0", "1e308", "1000.1"}},
                                                      {12, {"", "x", "-1", "10.5"}},
                                                      {13, {"", "x", "-1", "361"}},
                                                      {14, {"", "x", "0", "3"}},

@@ -160,15 +160,21 @@ TEST_F(ComparaçãoDoAjuste, SemOsNúmerosQueAsEstimativasPedemNemListaNemCompar
     comparar("Command8");
     form_graf(1)->Label17.texto = "como estava";
     auto& f = *form_E(1).operator->();
-    for (const auto& [lista, texto, bom] : {std::tuple{&f.Combo2, "x", "2"},
-                                            {&f.Combo2, "0", "2"},
-                                            {&f.Combo2, "1e9", "2"},
-                                            {&f.Combo1, "-6", "6.0"}}) {
+    const std::string contagem = "mensagem: O número de coletores do Ensaio 1 deve ser um número inteiro de "
+                                 "1 a 1000!",
+                      espaçamento =
+                          "mensagem: O espaçamento do Ensaio 1 deve ser um número maior que 0 e até "
+                          "1000 m!";
+    for (const auto& [lista, texto, bom, mensagem] : {std::tuple{&f.Combo2, "x", "2", contagem},
+                                                      {&f.Combo2, "0", "2", contagem},
+                                                      {&f.Combo2, "1e9", "2", contagem},
+                                                      {&f.Combo1, "-6", "6.0", espaçamento},
+                                                      {&f.Combo1, "1e400", "6.0", espaçamento}}) {
         lista->texto = texto;
         caderno.clear();
         atos::clicar(alvo(form_graf(1), "Command3"));
         comparar("Command8");
-        EXPECT_EQ(caderno, Textos(2, "mensagem: Valor inválido!")) << texto;
+        EXPECT_EQ(caderno, Textos(2, mensagem)) << texto;
         lista->texto = bom;
     }
     EXPECT_FALSE(form_ajuste1.visivel);
@@ -347,7 +353,8 @@ TEST_F(ComparaçãoDoAutopropelido, AListaNãoPrecisaDasLeiturasMasDaVelocidadeE
     atos::clicar(alvo(form_MIgraf(1), "Command3"));
     EXPECT_EQ(caderno, (Textos{"mensagem: Valor de ângulo de giro do aspersor inválido no Ensaio 1!",
                                "mensagem: Ensaio 1: a velocidade do aspersor deve estar entre 0 - 200 m/h!",
-                               "mensagem: Valor inválido!"}));
+                               "mensagem: O número de coletores em cada lado do Ensaio 1 deve ser um número "
+                               "inteiro de 1 a 1000!"}));
     EXPECT_FALSE(form_MIajuste1.visivel);
 }
 

@@ -209,7 +209,10 @@ TEST(FormAjvenOu, UmaContagemQueOArquivoNãoAdmiteNãoÉSalva) {
         caderno.clear();
         atos::clicar(alvo(form_E1, "Command6"));
         ASSERT_FALSE(caderno.empty()) << texto;
-        EXPECT_EQ(caderno.front(), "mensagem: Valor inválido!") << texto;
+        EXPECT_EQ(caderno.front(),
+                  "mensagem: O número de coletores do Ensaio 1 deve ser um número inteiro de 1 a 1000!")
+            << texto;
+        EXPECT_EQ(controleComFoco, &form_E1->Combo2) << texto;
     }
 }
 

@@ -263,14 +263,28 @@ class Progresso:
         self._mudar(self.barra, texto)
 
 
+def conselho(t, numero):
+    """What the person is told after the name of an error that ends the preparation of a test."""
+    try:
+        t.fator()
+    except ErroDeExecucao:
+        caixas = "o diâmetro do coletor"
+        if isinstance(t, EnsaioMalha):
+            caixas = "o tempo" if t.modo == "mm" else "o tempo e o diâmetro do coletor"
+        return f"confira {caixas} do Ensaio {numero}"
+    return f"as leituras do Ensaio {numero} não somam água que se possa igualar à vazão do aspersor"
+
+
 def ajustar(fonte, ensaios, ordemDasSomas=0):
     metodo = MALHA if isinstance(ensaios[0], EnsaioMalha) else MOVEL
     r = Ajuste()
-    try:
-        preparados = [preparar(t, fonte) for t in ensaios]
-    except ErroDeExecucao as erro:
-        r.erro = str(erro)
-        return r
+    preparados = []
+    for numero, t in enumerate(ensaios, 1):
+        try:
+            preparados.append(preparar(t, fonte))
+        except ErroDeExecucao as erro:
+            r.erro = f"{erro}: {conselho(t, numero)}"
+            return r
     r.aviso = avisoDosFatores(preparados)
     tela = Progresso()
     r.progresso = tela.linhas

@@ -592,6 +592,7 @@ def bordas(s, contas, pasta):
         cena.ajustar([primeiro, segundo], dois)
         caso.comandos.append("# Nozzle and pressure don't")
         caso.faz("rolar", "form_AjVen.hsbPressão", 60)
+        caso.saida.append("aviso: Os parâmetros foram ajustados com outro bocal ou pressão.")
         caso.faz("escolher", "form_AjVen.Combo1", "20 mm")
         cena.mostrarLegendas(dois.legendas)
         cena.mostrarBotoes(ajustado=True)
