@@ -109,7 +109,8 @@ std::optional<PerfilMedido> avançarPerfilForm() {
         recusar(perfilForm_planilha(), recusa);
         return std::nullopt;
     }
-    const auto fechado = fecharPerfil(leituras());
+    const auto fechado = explicarErro("são precisas duas leituras ao menos, e diferentes as duas últimas",
+                                      [] { return fecharPerfil(leituras()); });
     if (fechado.R < 12) {
         plataforma::mensagem("Para as simulações, o raio de alcance deve ser superior a 12 m!");
         return std::nullopt;

@@ -54,14 +54,6 @@ void definirLista(Lista& lista, const std::string& valor) {
     lista.texto = item == lista.itens.end() ? valor : *item;
 }
 
-void lerUnidade(LeitorDeLinhas& leitor) {
-    auto& f = *formEC.operator->();
-    const double unidade = lerEstrito(leitor.próxima());
-    if (unidade != 1 && unidade != 2) throw ArquivoRecusado{};
-    marcar(formEC, unidade == 1 ? f.Option4 : f.Option3);
-    if (unidade == 2) definirTexto(f.Text7, leitor.próxima());
-}
-
 void lerCabeçalho(LeitorDeLinhas& leitor) {
     auto& f = *formEC.operator->();
     for (auto* caixa : {&f.Text6, &f.Text8, &f.Text13, &f.Text1, &f.Text12, &f.Text11, &f.Text9})
@@ -74,10 +66,15 @@ void lerCabeçalho(LeitorDeLinhas& leitor) {
     if (!recusaDoTamanho(2 * coletores, linhas).empty()) throw ArquivoRecusado{};
     definirTexto(f.Text2, leitor.próxima());
     definirTexto(f.Text3, leitor.próxima());
-    lerUnidade(leitor);
+    const double unidade = lerEstrito(leitor.próxima());
+    if (unidade != 1 && unidade != 2) throw ArquivoRecusado{};
+    const auto diâmetro = unidade == 2 ? leitor.próxima() : std::string{};
     if (const char* recusa = recusaDosColetores(lerEstrito(f.Combo4.texto), coletores))
         throw ArquivoRecusado{recusa};
     if (std::nearbyint(linhas) < 1 || std::nearbyint(coletores) < 1) throw ArquivoRecusado{};
+    // Only now, since the unit makes the grid anew: a header that doesn't do takes no reading with it.
+    marcar(formEC, unidade == 1 ? f.Option4 : f.Option3);
+    if (unidade == 2) definirTexto(f.Text7, diâmetro);
 }
 
 void lerLeituras(LeitorDeLinhas& leitor) {

@@ -6,6 +6,7 @@
 #include "campo/perfil_do_movel.h"
 #include "campo/vazao_ec.h"
 #include "comum/arquivos_de_dados.h"
+#include "comum/erro_execucao.h"
 #include "comum/numeros.h"
 #include "comum/operacoes.h"
 #include "comum/plataforma.h"
@@ -56,14 +57,18 @@ const std::array<VerificaçãoDeTexto, 2> verificaçõesDaVazãoDoEnsaio = {
      {nãoÉPositivo, "Valor numérico de vazão inválido!"}}};
 
 void perfilRadialDoMovel() {
+    constexpr const char* explicação =
+        "confira a velocidade e as lâminas: é preciso ter água em duas posições de cada lado, com lâminas "
+        "diferentes nas duas últimas";
     const auto móvel = lerPerfilMóvel();
-    if (const char* recusa = recusaDoPerfilMóvel(móvel)) {
+    if (const char* recusa = explicarErro(explicação, [&] { return recusaDoPerfilMóvel(móvel); })) {
         plataforma::mensagem(recusa);
         return;
     }
     auto& f = *formEC.operator->();
     const double alfa = ((360 - lerPrefixo(f.Text9.texto)) / 2) * piDoEnsaioMóvel.pi / 180;
-    const auto [R, anéis] = inverterPerfilMóvel(móvel, lerEstrito(f.Text11.texto), alfa);
+    const auto [R, anéis] = explicarErro(
+        explicação, [&] { return inverterPerfilMóvel(móvel, lerEstrito(f.Text11.texto), alfa); });
     const double somaV = volumeSobOPerfil(anéis, piDoEnsaioMóvel);
     if (!vazãoAceita(somaV)) return;
 

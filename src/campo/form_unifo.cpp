@@ -29,11 +29,13 @@ bool espaçamentoAceito() {
     const double E = espaçamentoEscolhido();
     if (std::fmod(std::nearbyint(E), 6) != 0) {
         plataforma::mensagem("O espaçamento deve ser múltiplo de seis!");
+        focar(formUnifo->cmbEspaçamento);
         return false;
     }
     if (temPosições(E)) return true;
     plataforma::mensagem("Valor de espaçamento inválido!");
     escolherItem(formUnifo->cmbEspaçamento, 0);
+    focar(formUnifo->cmbEspaçamento);
     return false;
 }
 

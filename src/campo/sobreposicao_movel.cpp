@@ -52,6 +52,12 @@ void escreverDetalhe(const SobreposiçãoMedida& soma, double espaço) {
     }
 }
 
+/// Depths that are all 0, and too few of them for a lowest quarter, have no uniformity.
+Estatísticas estatísticasDoEnsaio(const std::vector<double>& lâminas, std::size_t q) {
+    return explicarErro("confira as lâminas e o espaçamento: todas são zero, ou são poucas demais",
+                        [&] { return calcularEstatísticas(lâminas, q); });
+}
+
 /// The lines of collectors in three colours by turns, so that neighbours differ, and their mean over them in
 /// blue.
 void desenharDetalhe(const SobreposiçãoMedida& soma, double espaço) {
@@ -108,7 +114,7 @@ void prepararSobreposicao() {
         const double E = lerPrefixo(texto);
         const auto valores = sobreporMedida(ensaio, E).valores;
         if (valores.size() >= 2) q = menorQuarto(valores.size());
-        pontos.push_back({E, calcularEstatísticas(valores, q)});
+        pontos.push_back({E, estatísticasDoEnsaio(valores, q)});
         const auto& figuras = pontos.back().valores;
         const int linha = static_cast<int>(pontos.size());
         f.flexGrid_A.escrever(linha, 0, Format(E, "0"));
@@ -132,10 +138,13 @@ void sobreporMovel() {
     auto& f = *formUnifo.operator->();
     const double E = lerPrefixo(f.cmbEspaçamento.texto);
     const auto soma = sobreporMedida(ensaio, E);
+    // All figures before any of them is shown: a report of two spacings would tell of neither.
+    const double calculada = explicarErro("confira a velocidade e o espaçamento", [&] {
+        return lâminaCalculada(lerPrefixo(formEC->Text12.texto), E, lerPrefixo(formEC->Text11.texto));
+    });
+    const auto valores = estatísticasDoEnsaio(soma.valores, menorQuarto(soma.valores.size()));
     escreverDetalhe(soma, ensaio.espaço);
-    f.lblCalculado.texto = Format(
-        lâminaCalculada(lerPrefixo(formEC->Text12.texto), E, lerPrefixo(formEC->Text11.texto)), "0.00");
-    const auto valores = calcularEstatísticas(soma.valores, menorQuarto(soma.valores.size()));
+    f.lblCalculado.texto = Format(calculada, "0.00");
     f.Label33.texto = Format(valores.UD, "##0.00");
     f.Label16.texto = Format(valores.CUC, "##0.00");
     f.Label17.texto = Format(valores.media, "##0.00");

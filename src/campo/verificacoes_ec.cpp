@@ -93,10 +93,18 @@ bool ensaioVálido(std::span<const double> espaços, const char* recusaDoEspaço
     auto& f = *formEC.operator->();
     if (f.Option3.marcada && !éNumérico(f.Text7.texto))
         return recusar(f.Text7, "Diâmetro do coletor com valor numérico inválido!");
-    if (std::ranges::find(espaços, lerPrefixo(f.Combo4.texto)) == espaços.end())
+    if (!éNumérico(f.Combo4.texto) || std::ranges::find(espaços, lerEstrito(f.Combo4.texto)) == espaços.end())
         return acusar(f.Combo4, recusaDoEspaço);
     return contagensVálidas() && célulasVálidas({éVazio, "Há alguma célula da planilha vazia!"}) &&
            célulasVálidas({nãoÉNumérico, "Insira valores numéricos!"});
+}
+
+/// The angle may be left out, as a file that was saved without it says; a given one is an angle.
+bool ânguloDeGiroVálido() {
+    const auto& texto = formEC->Text9.texto;
+    if (texto.empty() || texto == "N/E") return true;
+    const bool ângulo = éNumérico(texto) && lerEstrito(texto) >= 0 && lerEstrito(texto) <= 360;
+    return ângulo || acusar(formEC->Text9, "O valor de ângulo de giro deve estar entre 0 - 360º!");
 }
 
 /// A test narrower than the smallest spacing has none to be overlapped at.
@@ -122,7 +130,7 @@ bool podeSobrepor() {
 bool podeGerarPerfil() {
     constexpr std::array espaços = {1.0, 1.5, 2.0, 3.0, 6.0};
     return ensaioVálido(espaços, "O espaçamento entre coletores deve ser 1, 1.5, 2, 3 ou 6 m!") &&
-           (formEC->Text12.texto.empty() || vazãoNumérica()) && velocidadeNumérica();
+           (formEC->Text12.texto.empty() || vazãoNumérica()) && velocidadeNumérica() && ânguloDeGiroVálido();
 }
 
 } // namespace varenta

@@ -321,7 +321,9 @@ TEST_F(EnsaioRadial, UmaLinhaSóTerminaComErroDeExecução) {
     preencherEnsaio({{"18", "1"}});
     caderno.clear();
     avançar();
-    EXPECT_EQ(caderno, std::vector<std::string>{"erro: Índice fora dos limites"});
+    EXPECT_EQ(caderno,
+              std::vector<std::string>{"erro: Índice fora dos limites: "
+                                       "são precisas duas leituras ao menos, e diferentes as duas últimas"});
     EXPECT_TRUE(perfilForm.visivel);
 }
 
@@ -329,7 +331,9 @@ TEST_F(EnsaioRadial, UmFinalPlanoTerminaComErroDeExecução) {
     preencherEnsaio({{"2", "9"}, {"10", "5"}, {"18", "5"}});
     caderno.clear();
     avançar();
-    EXPECT_EQ(caderno, std::vector<std::string>{"erro: Divisão por zero"});
+    EXPECT_EQ(caderno,
+              std::vector<std::string>{"erro: Divisão por zero: "
+                                       "são precisas duas leituras ao menos, e diferentes as duas últimas"});
 }
 
 TEST_F(EnsaioRadial, UmAlcanceAbaixoDe12mÉRecusado) {

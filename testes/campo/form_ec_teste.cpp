@@ -300,6 +300,20 @@ TEST_F(EnsaioDeCampo, UmaDistânciaQueNenhumDesenhoAlcançaDeixaSóOCarreador) {
     EXPECT_EQ(formEC->Picture1.traços.size(), 3U);
 }
 
+TEST_F(EnsaioDeCampo, UmArquivoRecusadoNoCabeçalhoDeixaAsLeituras) {
+    recomeçar();
+    clicar(form3, "EnsCampo");
+    atos::preencherCélula(alvo(formEC, "flex_A"), 1, 1, "5");
+    const PastaTemporaria pasta;
+    // Three collectors at 1 m, of which there have to be four.
+    arquivos = {pasta.gravar("e.TXT", "a\nb\nc\nd\n10\n30\n210\n1\n6\n3\n1\n1\n1\n1\n1\n1\n1\n1\n1\n1\n")};
+    respostas = {true};
+    clicar(formEC, "Option2");
+    EXPECT_EQ(caderno.back(), "mensagem: O número de coletores em cada linha deve ser maior que 4!");
+    EXPECT_EQ(formEC->flex_A.célula(1, 1), "5.000");
+    EXPECT_EQ(formEC->Combo3.texto, "20");
+}
+
 TEST_F(EnsaioDeCampo, LimparEsvaziaCaixasECélulasEDeixaAsListas) {
     for (const auto* nome :
          {"Text6", "Text8", "Text13", "Text11", "Text12", "Text9", "Text1", "Text7", "Text2", "Text3"})

@@ -203,9 +203,41 @@ TEST_F(SobreposiçãoDoMóvel, UmaSóPosiçãoDeUmaLinhaTerminaComEstouro) {
     escolher(formEC, "Combo4", "6.0");
     digitar(formEC, "Text12", "3");
     clicar(formEC, "Command4");
-    EXPECT_EQ(caderno, Textos{"erro: Estouro"});
+    EXPECT_EQ(caderno, Textos{"erro: Estouro: "
+                              "confira as lâminas e o espaçamento: todas são zero, ou são poucas demais"});
     EXPECT_FALSE(formUnifo.visivel);
     EXPECT_TRUE(formEC.visivel);
+}
+
+TEST_F(SobreposiçãoDoMóvel, UmEspaçamentoQueFalhaNãoSeMisturaAoAnterior) {
+    abrirFormEC("EnsCampo", {{"1"}, {"2"}, {"3"}, {"4"}, {"5"}, {"5"}, {"4"}, {"3"}, {"2"}, {"1"}});
+    escolher(formEC, "Combo4", "6.0");
+    digitar(formEC, "Text12", "3");
+    clicar(formEC, "Command4");
+    ASSERT_TRUE(formUnifo.visivel);
+    caderno.clear();
+    const auto detalhe = formUnifo->flexGrid_B.células;
+    const auto calculada = formUnifo->lblCalculado.texto, cuc = formUnifo->Label16.texto;
+    digitar(formUnifo, "cmbEspaçamento", "6"); // one position of one line
+    clicar(formUnifo, "cmdCUC");
+    ASSERT_EQ(caderno.size(), 1U);
+    EXPECT_TRUE(caderno.front().starts_with("erro: Estouro"));
+    EXPECT_EQ(formUnifo->flexGrid_B.células, detalhe);
+    EXPECT_EQ(formUnifo->lblCalculado.texto, calculada);
+    EXPECT_EQ(formUnifo->Label16.texto, cuc);
+}
+
+TEST_F(SobreposiçãoDoMóvel, UmEspaçamentoRecusadoRecebeOFoco) {
+    abrirFormEC("EnsCampo", {{"1"}, {"2"}, {"3"}, {"3"}, {"2"}, {"1"}});
+    digitar(formEC, "Text12", "3");
+    clicar(formEC, "Command4");
+    ASSERT_TRUE(formUnifo.visivel);
+    for (const auto* espaçamento : {"7", "-6"}) {
+        controleComFoco = nullptr;
+        digitar(formUnifo, "cmbEspaçamento", espaçamento);
+        clicar(formUnifo, "cmdCUC");
+        EXPECT_EQ(controleComFoco, &formUnifo->cmbEspaçamento) << espaçamento;
+    }
 }
 
 TEST_F(SobreposiçãoDoMóvel, OEspaçamentoDeUmaPosiçãoTomaOQuartoDoAnterior) {
@@ -223,7 +255,8 @@ TEST_F(SobreposiçãoDoMóvel, LâminasTodasNulasTerminamComEstouro) {
     abrirFormEC("EnsCampo", {{"0"}, {"0"}, {"0"}, {"0"}, {"0"}, {"0"}});
     digitar(formEC, "Text12", "3");
     clicar(formEC, "Command4");
-    EXPECT_EQ(caderno, Textos{"erro: Estouro"});
+    EXPECT_EQ(caderno, Textos{"erro: Estouro: "
+                              "confira as lâminas e o espaçamento: todas são zero, ou são poucas demais"});
 }
 
 TEST_F(SobreposiçãoDoMóvel, VolumesViramLâminas) {

@@ -304,10 +304,36 @@ TEST_F(PerfilDoMóvel, LâminasQueNãoDãoPerfilSãoRecusadasETudoFica) {
 TEST_F(PerfilDoMóvel, UmaPosiçãoMolhadaOuDuasIguaisTerminamComErroDeExecução) {
     abrirFormEC("PerfRad", {{"0"}, {"4"}, {"4"}, {"0"}});
     gerar();
-    EXPECT_EQ(caderno, std::vector<std::string>{"erro: Índice fora dos limites"});
+    EXPECT_EQ(caderno,
+              std::vector<std::string>{"erro: Índice fora dos limites: "
+                                       "confira a velocidade e as lâminas: é preciso ter água em duas "
+                                       "posições de cada lado, com lâminas diferentes nas duas últimas"});
     abrirFormEC("PerfRad", {{"4"}, {"4"}, {"4"}, {"4"}});
     gerar();
-    EXPECT_EQ(caderno, std::vector<std::string>{"erro: Divisão por zero"});
+    EXPECT_EQ(caderno,
+              std::vector<std::string>{"erro: Divisão por zero: "
+                                       "confira a velocidade e as lâminas: é preciso ter água em duas "
+                                       "posições de cada lado, com lâminas diferentes nas duas últimas"});
+}
+
+TEST_F(PerfilDoMóvel, UmÂnguloDeGiroQueNãoÉÂnguloÉRecusado) {
+    for (const auto* ângulo : {"abc", "-1", "361"}) {
+        abrirFormEC("PerfRad", {{"1"}, {"4"}, {"4"}, {"1"}});
+        digitar(formEC, "Text9", ângulo);
+        gerar();
+        EXPECT_EQ(caderno,
+                  std::vector<std::string>{"mensagem: O valor de ângulo de giro deve estar entre 0 - 360º!"})
+            << ângulo;
+        EXPECT_EQ(controleComFoco, &formEC->Text9);
+    }
+}
+
+TEST_F(PerfilDoMóvel, UmEspaçamentoQueSóComeçaPorUmNúmeroÉRecusado) {
+    abrirFormEC("PerfRad", {{"1"}, {"4"}, {"4"}, {"1"}});
+    digitar(formEC, "Combo4", "2,5");
+    gerar();
+    EXPECT_EQ(caderno, std::vector<std::string>{
+                           "mensagem: O espaçamento entre coletores deve ser 1, 1.5, 2, 3 ou 6 m!"});
 }
 
 TEST_F(PerfilDoMóvel, SegueParaASimulaçãoComÂnguloZero) {

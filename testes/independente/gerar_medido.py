@@ -1259,7 +1259,7 @@ def duvidas(gravarCaso, dados):
     caso = um("um-dado", "A radial test of a single reading: there is no second one for the slope")
     abrirRadial(caso, base(r=["14.00"], leituras=["5.000"]))
     caso.clica("PerfilForm.Command8")
-    caso.saida.append("erro: Índice fora dos limites")
+    caso.saida.append(f"erro: Índice fora dos limites: {medido.LEITURAS_DO_FIM}")
 
     caso = um("fora-do-grafico", "Outside Perfil's chart the read-out stays as it was")
     e = base(vazao="9")
@@ -1361,17 +1361,17 @@ def duvidas(gravarCaso, dados):
     abrirSobreposicao(caso, e)
     caso.faz("digitar", "FormUnifo.cmbEspaçamento", "6")
     caso.clica("FormUnifo.cmdCUC")
-    caso.saida.append("erro: Estouro")
+    caso.saida.append(f"erro: Estouro: {medido.SEM_UNIFORMIDADE}")
 
     caso = um("sobreposicao-seca", "An overlap of dry collectors has no lowest quarter over its mean")
     abrirMovel(caso, baseMovel(leituras=[["0.000"] * 2] * 6), "EnsCampo")
     caso.clica("Form_EC.Command4")
-    caso.saida.append("erro: Estouro")
+    caso.saida.append(f"erro: Estouro: {medido.SEM_UNIFORMIDADE}")
 
     caso = um("sobreposicao-parada", "A speed of 0 has no depth to be calculated")
     abrirMovel(caso, baseMovel(velocidade="0"), "EnsCampo")
     caso.clica("Form_EC.Command4")
-    caso.saida.append("erro: Divisão por zero")
+    caso.saida.append(f"erro: Divisão por zero: {medido.SEM_LAMINA_CALCULADA}")
 
 
 def main():

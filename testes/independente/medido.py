@@ -16,6 +16,7 @@ text hangs on that bit.
 """
 
 import re
+from contextlib import contextmanager
 from dataclasses import dataclass, field
 from math import atan, isfinite, sin, sqrt, tan
 
@@ -23,6 +24,21 @@ import calculo
 import uniformidade as u
 from calculo import DOIS_PI, PI, formatar, ler
 from uniformidade import ErroDeExecucao, dividir, soma, texto
+
+# What a run-time error says after its name, where an input explains it.
+LEITURAS_DO_FIM = "são precisas duas leituras ao menos, e diferentes as duas últimas"
+LAMINAS_DO_PERFIL = ("confira a velocidade e as lâminas: é preciso ter água em duas posições de cada lado, com lâminas "
+                     "diferentes nas duas últimas")
+SEM_UNIFORMIDADE = "confira as lâminas e o espaçamento: todas são zero, ou são poucas demais"
+SEM_LAMINA_CALCULADA = "confira a velocidade e o espaçamento"
+
+
+@contextmanager
+def explicado(explicacao):
+    try:
+        yield
+    except ErroDeExecucao as erro:
+        raise ErroDeExecucao(f"{erro}: {explicacao}") from None
 
 # The radial test has literals of its own.
 PI_DO_ENSAIO = 3.141592654
@@ -281,7 +297,8 @@ def avancar(e, conversa):
     """The road to Perfil; raises Recusa or ErroDeExecucao where it ends early, with e's boxes as they are left."""
     conferirCampos(e, conversa)
     conferirGrade(e, conversa)
-    pontos, R = perfilFechado(e)
+    with explicado(LEITURAS_DO_FIM):
+        pontos, R = perfilFechado(e)
     if R < 12:
         conversa.recusar("Para as simulações, o raio de alcance deve ser superior a 12 m!")
     qest = volume(pontos)
@@ -388,10 +405,8 @@ def laminas(e):
         return valores
     d = float(e.diametro)
     a = PI * (d * d) / 4
-    try:
+    with explicado("confira o diâmetro do coletor e os volumes"):
         return [[dividir(10 * v, a) for v in linha] for linha in valores]
-    except ErroDeExecucao as erro:
-        raise ErroDeExecucao(f"{erro}: confira o diâmetro do coletor e os volumes") from None
 
 
 def ladosMedidos(profundidades):
@@ -485,7 +500,9 @@ def perfilRadialDoMovel(e, conversa):
     conferirMovel(e, conversa, *PARA_PERFIL, vazaoPodeFaltar=True)
     V = float(e.velocidade)
     alfa = ((360 - float(e.giro)) / 2) * PI / 180
-    a = descascar(mediasDosLados(laminas(e)), ler(e.espacamento), alfa, V, conversa)
+    D = mediasDosLados(laminas(e))
+    with explicado(LAMINAS_DO_PERFIL):
+        a = descascar(D, ler(e.espacamento), alfa, V, conversa)
     somaV = vazaoDosAneis(a)
     p = Perfil()
     if e.vazao == "":
@@ -602,7 +619,8 @@ def prepararSobreposicao(e, conversa):
         valores = [h for linha in linhas for h in linha]
         if 0.25 * len(valores) >= 0.5:
             q = u.quarto(len(valores))
-        media, ud, cuc = u.estatisticas(valores, q)
+        with explicado(SEM_UNIFORMIDADE):
+            media, ud, cuc = u.estatisticas(valores, q)
         r.flexGrid_A.append((formatar(ler(item), "0"), *(r.escrever(v, "0.00") for v in (cuc, ud, media))))
         if cuc > ler(maior):
             maior, r.melhor = r.escrever(cuc, "##0.00"), item
