@@ -18,7 +18,7 @@ bool éOpção(const std::string& argumento) { return argumento.starts_with('-')
 
 int executarLinhaDeComando(const std::vector<std::string>& argumentos, std::istream& entrada,
                            std::ostream& saída, std::ostream& erros) {
-    constexpr std::string_view opçãoDeProgresso = "--progresso";
+    static constexpr std::string_view opçãoDeProgresso = "--progresso";
     std::vector<std::string> arquivos;
     std::ranges::remove_copy_if(argumentos, std::back_inserter(arquivos), éOpção);
     const bool opçõesConhecidas = std::ranges::all_of(
