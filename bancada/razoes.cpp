@@ -14,7 +14,6 @@
 
 #include <algorithm>
 #include <bit>
-#include <cmath>
 #include <cstdint>
 #include <cstdio>
 #include <cstdlib>
@@ -23,6 +22,7 @@
 #include <span>
 #include <string>
 #include <type_traits>
+#include <utility>
 #include <vector>
 
 namespace {
@@ -257,16 +257,37 @@ void imprimirCrescimento(const DadosDaSimulação& dados) {
     }
 }
 
+/// Time of one evaluation of a fit against the size of its tests, at the width in use.
+void imprimirAvaliações(const char* cabeçalho, const std::vector<std::pair<int, int>>& tamanhos) {
+    std::printf("\n| %s | pontos | us por avaliação | ns por ponto |\n|---|---|---|---|\n", cabeçalho);
+    for (const auto& [quantos, N] : tamanhos) {
+        const auto ensaios = bancada::ensaiosDeMalha(quantos, N, 84.0 / N);
+        ContagemDoModelo contagem;
+        const auto objetivo = objetivoDosEnsaios(ensaios, contagem);
+        const std::vector<Parametros> ponto = {bancada::parâmetros(60)};
+        const auto medidas = alternar({[&] { objetivo(ponto); }});
+        const auto pontos = static_cast<double>(quantos * N * N);
+        std::printf("| %d de %d x %d | %.0f | %.2f | %.1f |\n", quantos, N, N, pontos,
+                    medidas[0].mediana * 1e6, medidas[0].mediana / pontos * 1e9);
+    }
+}
+
 } // namespace
 
-/// `razoes VEZES` evaluates the field that many times at the width in use and prints nothing: for tools that
-/// count instructions.
+/// `razoes campo VEZES` evaluates the field that many times at the width in use, `razoes ajuste VEZES` makes
+/// the fit of one grid test of 14 x 14, and both print nothing: for tools that count instructions.
 int main(int quantos, char** argumentos) {
     const auto dados = bancada::caso();
     const auto campo = campoDe(dados, static_cast<std::size_t>(ladoDoCampo(dados)));
     std::vector<double> i(campo.X.size());
-    if (quantos > 1) {
-        for (int vez = std::atoi(argumentos[1]); vez > 0; --vez) avaliarNoLote(campo, larguraEmUso(), i);
+    if (quantos == 3) {
+        const auto ensaios = bancada::ensaiosDeMalha(1, 14, 6);
+        const bool ajuste = std::string{argumentos[1]} == "ajuste";
+        for (int vez = std::atoi(argumentos[2]); vez > 0; --vez)
+            if (ajuste)
+                ajustar(ensaios, larguraEmUso());
+            else
+                avaliarNoLote(campo, larguraEmUso(), i);
         return 0;
     }
     std::printf("| Trabalho | transcrição |");
@@ -282,4 +303,6 @@ int main(int quantos, char** argumentos) {
     compararAjuste("ajuste do autopropelido, 3 ensaios, 40 de cada lado", bancada::ensaiosMóveis(3, 40, 2));
     imprimirLimites(campo);
     imprimirCrescimento(dados);
+    imprimirAvaliações("N", {{1, 7}, {1, 14}, {1, 28}, {1, 56}, {1, 112}});
+    imprimirAvaliações("Ensaios", {{1, 42}, {2, 42}, {3, 42}});
 }

@@ -105,7 +105,7 @@ void lerArquivo(const std::string& caminho) {
 
 } // namespace
 
-std::string textoDoArquivo(const ArquivoMóvel& arquivo) {
+std::string textoDoArquivo(const ArquivoDoCampo& arquivo) {
     std::string texto;
     const auto linha = [&](const std::string& conteúdo) { acrescentarLinha(texto, conteúdo); };
     linha(ouSubstituto(arquivo.nome, "Não Especificado"));
@@ -134,22 +134,22 @@ const char* recusaDosColetores(double espaço, double coletores) {
 
 std::string textoDoEnsaio() {
     const auto& f = *formEC.operator->();
-    ArquivoMóvel arquivo{.nome = f.Text6.texto,
-                         .bocais = f.Text8.texto,
-                         .pressão = f.Text13.texto,
-                         .anguloJato = f.Text1.texto,
-                         .vazão = f.Text12.texto,
-                         .velocidade = f.Text11.texto,
-                         .anguloGiro = f.Text9.texto,
-                         .linhas = f.Combo1.texto,
-                         .distância = f.Combo2.texto,
-                         .coletores = f.Combo3.texto,
-                         .espaço = f.Combo4.texto,
-                         .ventoVelocidade = f.Text2.texto,
-                         .ventoDireção = f.Text3.texto,
-                         .unidade = f.Option3.marcada ? UnidadeMóvel::ml : UnidadeMóvel::mm,
-                         .diâmetro = f.Text7.texto,
-                         .leituras = {}};
+    ArquivoDoCampo arquivo{.nome = f.Text6.texto,
+                           .bocais = f.Text8.texto,
+                           .pressão = f.Text13.texto,
+                           .anguloJato = f.Text1.texto,
+                           .vazão = f.Text12.texto,
+                           .velocidade = f.Text11.texto,
+                           .anguloGiro = f.Text9.texto,
+                           .linhas = f.Combo1.texto,
+                           .distância = f.Combo2.texto,
+                           .coletores = f.Combo3.texto,
+                           .espaço = f.Combo4.texto,
+                           .ventoVelocidade = f.Text2.texto,
+                           .ventoDireção = f.Text3.texto,
+                           .unidade = f.Option3.marcada ? UnidadeMóvel::ml : UnidadeMóvel::mm,
+                           .diâmetro = f.Text7.texto,
+                           .leituras = {}};
     for (int l = 1; l < f.flex_A.linhas; ++l) {
         auto& leituras = arquivo.leituras.emplace_back();
         for (int c = 1; c < f.flex_A.colunas; ++c) leituras.push_back(f.flex_A.célula(l, c));

@@ -11,7 +11,7 @@ namespace varenta {
 enum class UnidadeMóvel { mm = 1, ml = 2 };
 
 /// The file's lines as texts; those that tell of the sprinkler may be empty.
-struct ArquivoMóvel {
+struct ArquivoDoCampo {
     std::string nome, bocais, pressão, anguloJato, vazão, velocidade, anguloGiro;
     std::string linhas, distância, coletores, espaço;
     std::string ventoVelocidade, ventoDireção;
@@ -22,7 +22,7 @@ struct ArquivoMóvel {
 };
 
 /// The whole text of the file, without a line end after its last row.
-std::string textoDoArquivo(const ArquivoMóvel& arquivo);
+std::string textoDoArquivo(const ArquivoDoCampo& arquivo);
 
 /// The message that refuses a test with so many collectors on each side at that spacing (m); null where they
 /// are enough.

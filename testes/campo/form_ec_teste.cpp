@@ -474,7 +474,7 @@ TEST_F(ArquivoDoEnsaioDeCampo, EmMlTemODiâmetroEOQueEstáVazioÉNãoEspecificad
 }
 
 TEST_F(ArquivoDoEnsaioDeCampo, UmTextoSemVazãoVelocidadeEÂnguloOsDizNãoEspecificados) {
-    ArquivoMóvel arquivo{};
+    ArquivoDoCampo arquivo{};
     arquivo.unidade = UnidadeMóvel::mm;
     EXPECT_EQ(textoDoArquivo(arquivo),
               "Não Especificado\r\nN/E\r\nN/E\r\nN/E\r\nN/E\r\nN/E\r\nN/E\r\n\r\n\r\n\r\n\r\n\r\n\r\n1\r\n");
