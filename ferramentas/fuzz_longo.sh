@@ -4,6 +4,8 @@
 set -euo pipefail
 . "$(dirname "$0")/preparar.sh"
 
+instalar cmake ninja-build "${pacotes_de_teste[@]}"
+
 quanto=${1:-60s}
 case $quanto in
 *s) limite=(-max_total_time="${quanto%s}") ;;

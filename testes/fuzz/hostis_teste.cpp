@@ -3,11 +3,14 @@
 #include "apoio/pasta_temporaria.h"
 #include "comum/arquivo_texto.h"
 #include "fuzz/formatos.h"
+#include "roteiro/interprete.h"
 
 #include <gtest/gtest.h>
 
 #include <chrono>
 #include <filesystem>
+#include <map>
+#include <sstream>
 
 #include <sys/resource.h>
 #include <sys/stat.h>
@@ -151,6 +154,23 @@ TEST(RoteirosHostis, SãoRecusadosComASuaLinha) {
     tentar(trocas(bom));
     tentar(estranhos(bom));
     EXPECT_GE(quantos, 1000);
+}
+
+TEST(RoteirosHostis, OQueNãoÉArquivoÉDito) {
+    const teste::PastaTemporaria pasta;
+    ASSERT_EQ(::mkfifo(pasta.caminho("fila").c_str(), 0600), 0);
+    ASSERT_EQ(::truncate(pasta.gravar("enorme", "").c_str(), off_t{1} << 40), 0);
+    for (const auto& [nome, motivo] :
+         std::map<std::string, std::string>{{pasta.caminho(""), "é uma pasta, e não um arquivo"},
+                                            {pasta.caminho("ausente"), "o arquivo ou a pasta não existe"},
+                                            {pasta.caminho("fila"), "não é um arquivo de texto"},
+                                            {"/dev/zero", "não é um arquivo de texto"},
+                                            {pasta.caminho("enorme"), "o arquivo é grande demais"}}) {
+        std::ostringstream saída, erros;
+        EXPECT_EQ(Interprete(saída, erros).executarArquivo(nome), Interprete::falha);
+        EXPECT_EQ(erros.str(), nome + ": " + motivo + '\n');
+        EXPECT_EQ(saída.str(), "");
+    }
 }
 
 } // namespace
