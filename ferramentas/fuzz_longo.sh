@@ -4,7 +4,7 @@
 set -euo pipefail
 . "$(dirname "$0")/preparar.sh"
 
-instalar cmake ninja-build "${pacotes_de_teste[@]}"
+instalar cmake ninja-build clang libclang-rt-14-dev
 
 quanto=${1:-60s}
 case $quanto in

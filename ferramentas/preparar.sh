@@ -31,5 +31,5 @@ instalar() {
 
 pacotes_de_construcao=(g++ cmake ninja-build qt6-base-dev qt6-svg-dev libgl-dev qt6-translations-l10n
     fonts-dejavu-core)
-pacotes_de_teste=(libgtest-dev clang-format clang libclang-rt-14-dev locales groff-base desktop-file-utils appstream
+pacotes_de_teste=(libgtest-dev clang-format locales groff-base desktop-file-utils appstream
     shared-mime-info)

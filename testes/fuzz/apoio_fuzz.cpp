@@ -219,6 +219,12 @@ double Cursor::númeroNãoNulo() {
     return valor;
 }
 
+double Cursor::espaçamento() {
+    const double valor = númeroNãoNulo();
+    if (valor < -1000 || valor > 1000) throw LinhaRecusada{};
+    return valor;
+}
+
 double Cursor::númeroPositivo() {
     const double valor = número();
     if (valor <= 0) throw LinhaRecusada{};

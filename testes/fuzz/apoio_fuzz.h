@@ -158,6 +158,8 @@ class Cursor {
     double número();
     double númeroEntre(double menor, double maior);
     double númeroNãoNulo();
+    /// Not 0, and 1000 m at the most.
+    double espaçamento();
     double númeroPositivo();
     /// A whole number from 1 to `maior`.
     int contagem(int maior);

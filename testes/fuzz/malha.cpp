@@ -36,7 +36,7 @@ void lerTudo(Cursor& cursor, Leitura& leitura) {
     cursor.linha();
     cursor.linha();
     leitura.N = cursor.contagem(maiorContagem);
-    leitura.e = cursor.númeroNãoNulo();
+    leitura.e = cursor.espaçamento();
     leitura.W = cursor.númeroEntre(0, 10);
     leitura.direção = cursor.númeroEntre(0, 360);
     leitura.modo = cursor.contagem(3);
@@ -45,8 +45,7 @@ void lerTudo(Cursor& cursor, Leitura& leitura) {
     for (int l = 0; l < leitura.N; ++l)
         leitura.leituras.push_back(cursor.leituras(static_cast<std::size_t>(leitura.N)));
     cursor.exigirFim(emBranco);
-    // Positions that no double holds can't be shown.
-    leitura.aceito = std::isfinite(leitura.e * leitura.N);
+    leitura.aceito = true;
 }
 
 Leitura ler(const Linhas& linhas) {

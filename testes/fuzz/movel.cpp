@@ -39,9 +39,9 @@ void lerTudo(Cursor& cursor, Leitura& leitura) {
     if (númeroDe(leitura.velocidade).value_or(0) == 0) throw LinhaRecusada{};
     leitura.giro = cursor.númeroEntre(180, 360);
     leitura.L = cursor.contagem(maiorContagem);
-    leitura.eL = cursor.númeroNãoNulo();
+    leitura.eL = cursor.espaçamento();
     leitura.cadaLado = cursor.contagem(maiorContagem);
-    leitura.eC = cursor.númeroNãoNulo();
+    leitura.eC = cursor.espaçamento();
     leitura.W = cursor.númeroEntre(0, 10);
     leitura.direção = cursor.númeroEntre(0, 360);
     leitura.modo = cursor.contagem(2);
@@ -49,8 +49,7 @@ void lerTudo(Cursor& cursor, Leitura& leitura) {
     for (int l = 0; l < 2 * leitura.cadaLado; ++l)
         leitura.leituras.push_back(cursor.leituras(static_cast<std::size_t>(leitura.L)));
     cursor.exigirFim(emBranco);
-    // Positions that no double holds can't be shown.
-    leitura.aceito = std::isfinite(leitura.eC * 2 * leitura.cadaLado);
+    leitura.aceito = true;
 }
 
 Leitura ler(const Linhas& linhas) {
