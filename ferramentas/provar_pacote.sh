@@ -12,18 +12,18 @@ instalar debootstrap
 debootstrap --variant=minbase bookworm "$pasta"
 # As this machine reaches the packages, so does the folder.
 cp -r /etc/apt/apt.conf.d/. "$pasta/etc/apt/apt.conf.d/"
-cp "$pacote" "$pasta/root/varenta.deb"
-dentro() { chroot "$pasta" env -i PATH=/usr/sbin:/usr/bin:/sbin:/bin HOME=/root DEBIAN_FRONTEND=noninteractive "$@"; }
+cp "$pacote" "$pasta/srv/varenta.deb"
+dentro() { chroot "$pasta" env -i PATH=/usr/sbin:/usr/bin:/sbin:/bin HOME=/srv DEBIAN_FRONTEND=noninteractive "$@"; }
 dentro apt-get update -q
-dentro apt-get install -y -q --no-install-recommends /root/varenta.deb
+dentro apt-get install -y -q --no-install-recommends /srv/varenta.deb
 
 dentro bash -euc '
-    cp -r /usr/share/doc/varenta/exemplos /root
-    cd /root/exemplos
+    cp -r /usr/share/doc/varenta/exemplos /srv
+    cd /srv/exemplos
     for roteiro in *.roteiro; do
         varenta-roteiro "$roteiro" | cmp - "${roteiro%.roteiro}.esperado"
     done
     export QT_QPA_PLATFORM=offscreen
-    varenta --roteiro primeira_simulacao.roteiro --imagens /root/imagens | cmp - primeira_simulacao.esperado
-    ls /root/imagens/01-form1.png /root/imagens/02-Form7.png'
+    varenta --roteiro primeira_simulacao.roteiro --imagens /srv/imagens | cmp - primeira_simulacao.esperado
+    ls /srv/imagens/01-form1.png /srv/imagens/02-Form7.png'
 echo "O pacote instala e funciona em: $pasta"
