@@ -303,6 +303,6 @@ int main(int quantos, char** argumentos) {
     compararAjuste("ajuste do autopropelido, 3 ensaios, 40 de cada lado", bancada::ensaiosMóveis(3, 40, 2));
     imprimirLimites(campo);
     imprimirCrescimento(dados);
-    imprimirAvaliações("N", {{1, 7}, {1, 14}, {1, 28}, {1, 56}, {1, 112}});
+    imprimirAvaliações("N", {{1, 8}, {1, 16}, {1, 32}, {1, 64}, {1, 128}});
     imprimirAvaliações("Ensaios", {{1, 42}, {2, 42}, {3, 42}});
 }
