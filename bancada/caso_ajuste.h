@@ -27,7 +27,7 @@ inline VentoDoEnsaio vento(int n) { return {.W = 2.0 + n, .direção = 45.0 * n}
 /// Readings that a tenth too much water above and a tenth too little below the model make.
 inline void observar(auto& ensaio, double R) {
     ContagemDoModelo contagem;
-    ensaio.observados = estimados(ensaio, parâmetros(R), contagem);
+    ensaio.observados = estimados(ensaio, sozinho(parâmetros(R)), contagem);
     double fator = 0.9;
     for (double& observado : ensaio.observados) {
         observado *= fator;

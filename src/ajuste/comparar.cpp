@@ -29,8 +29,8 @@ struct Estimativa {
 template <class Ensaio>
 Estimativa<Ensaio> estimarComOMostrado(Aspersor aspersor, Ensaio ensaio, double R) {
     ContagemDoModelo contagem;
-    auto intensidades =
-        intensidadesEstimadas(ensaio, parametrosMostrados(telaDeAjuste(aspersor).controles, R), contagem);
+    auto intensidades = intensidadesEstimadas(
+        ensaio, sozinho(parametrosMostrados(telaDeAjuste(aspersor).controles, R)), contagem);
     return {std::move(ensaio), std::move(intensidades)};
 }
 
@@ -71,7 +71,7 @@ std::string comTrêsCasas(const char* texto, double valor, const char* unidade) 
 std::string textoDoDesvio(int n, std::span<const double> observados, std::span<const double> estimados,
                           const char* unidade) {
     Avaliação avaliação;
-    somarDesvios(avaliação, observados, estimados);
+    somarDesvios({&avaliação, 1}, observados, estimados);
     return "Desvio Médio no Ensaio " + std::to_string(n) +
            comTrêsCasas(": ", desvioMédio(avaliação), unidade);
 }

@@ -1,7 +1,10 @@
 #include "ajuste/ensaio.h"
 
+#include "comum/erro_execucao.h"
 #include "comum/numeros.h"
 
+#include <algorithm>
+#include <array>
 #include <cstddef>
 #include <utility>
 
@@ -26,6 +29,30 @@ void juntarPonto(EnsaioDoAjuste& ensaio, double y, double x) {
     const auto& [s2, cosseno, seno] = ensaio.lote.senos();
     ensaio.X.push_back(y * cosseno - x * seno);
     ensaio.Y.push_back(x * cosseno + y * seno);
+}
+
+/// `somarDesvios` of a number of sets that the compiler knows: their sums wait for nothing of each other. The
+/// estimates of one observation follow those of the last after `passo`.
+template <std::size_t conjuntos>
+void somar(std::span<Avaliação> avaliações, std::span<const double> observados,
+           std::span<const double> estimados, std::size_t passo = conjuntos) {
+    std::array<double, conjuntos> somas, contados{};
+    for (std::size_t s = 0; s < conjuntos; ++s) somas[s] = avaliações[s].soma;
+    const double* estimado = estimados.data();
+    for (const double observado : observados) {
+        for (std::size_t s = 0; s < conjuntos; ++s) {
+            const double desvio = observado - estimado[s];
+            const double quadrado = desvio * desvio;
+            somas[s] = somas[s] + quadrado;
+            contados[s] += quadrado > 0 ? 1.0 : 0.0;
+        }
+        estimado += passo;
+    }
+    // Squares only add up, so that a sum past the largest double is still there at the end.
+    for (std::size_t s = 0; s < conjuntos; ++s) {
+        avaliações[s].soma = finito(somas[s]);
+        avaliações[s].contados += static_cast<std::size_t>(contados[s]);
+    }
 }
 
 } // namespace
@@ -71,49 +98,71 @@ double igualarÀVazão(EnsaioDoAjuste& ensaio, float Q) {
     return c;
 }
 
-std::vector<double> intensidadesEstimadas(const EnsaioDoAjuste& ensaio, const Parametros& p,
+std::vector<double> intensidadesEstimadas(const EnsaioDoAjuste& ensaio, Conjuntos conjuntos,
                                           ContagemDoModelo& contagem, Largura largura) {
-    auto lote = ensaio.lote;
-    lote.definirParâmetros(p);
-    std::vector<double> intensidades(ensaio.X.size());
-    lote.avaliar(ensaio.X, ensaio.Y, intensidades, contagem, largura);
+    std::vector<double> intensidades(ensaio.X.size() * conjuntos.size());
+    ensaio.lote.avaliar(conjuntos, ensaio.X, ensaio.Y, intensidades, contagem, largura);
     return intensidades;
 }
 
-std::vector<double> lâminasEstimadas(const EnsaioMóvel& ensaio, std::span<const double> intensidades) {
-    const auto passos = static_cast<std::size_t>(ensaio.N);
+std::vector<double> lâminasEstimadas(const EnsaioMóvel& ensaio, std::span<const double> intensidades,
+                                     std::size_t conjuntos) {
+    const auto N = static_cast<std::size_t>(ensaio.N);
     std::vector<double> lâminas;
-    for (std::size_t j = 0; j < passos; ++j) {
-        double total = 0;
-        for (const double i : intensidades.subspan(j * passos, passos)) total = total + i;
-        lâminas.push_back(dividir(finito(total * ensaio.e), ensaio.v));
+    lâminas.reserve(N * conjuntos);
+    std::vector<double> totais(conjuntos);
+    auto intensidade = intensidades.begin();
+    for (std::size_t posição = 0; posição < N; ++posição) {
+        std::ranges::fill(totais, 0);
+        for (std::size_t passo = 0; passo < N; ++passo)
+            for (double& total : totais) total = total + *intensidade++;
+        for (const double total : totais) lâminas.push_back(dividir(finito(total * ensaio.e), ensaio.v));
     }
     return lâminas;
 }
 
-std::vector<double> estimados(const EnsaioDeMalha& ensaio, const Parametros& p, ContagemDoModelo& contagem,
+std::vector<double> estimados(const EnsaioDeMalha& ensaio, Conjuntos conjuntos, ContagemDoModelo& contagem,
                               Largura largura) {
-    return intensidadesEstimadas(ensaio, p, contagem, largura);
+    return intensidadesEstimadas(ensaio, conjuntos, contagem, largura);
 }
 
-std::vector<double> estimados(const EnsaioMóvel& ensaio, const Parametros& p, ContagemDoModelo& contagem,
+std::vector<double> estimados(const EnsaioMóvel& ensaio, Conjuntos conjuntos, ContagemDoModelo& contagem,
                               Largura largura) {
-    return lâminasEstimadas(ensaio, intensidadesEstimadas(ensaio, p, contagem, largura));
+    return lâminasEstimadas(ensaio, intensidadesEstimadas(ensaio, conjuntos, contagem, largura),
+                            conjuntos.size());
 }
 
-void somarDesvios(Avaliação& avaliação, std::span<const double> observados,
+void somarDesvios(std::span<Avaliação> avaliações, std::span<const double> observados,
                   std::span<const double> estimados) {
-    double soma = avaliação.soma;
-    std::size_t contados = 0;
-    for (std::size_t k = 0; k < observados.size(); ++k) {
-        const double desvio = observados[k] - estimados[k];
-        const double quadrado = desvio * desvio;
-        soma = soma + quadrado;
-        contados += quadrado > 0;
+    switch (avaliações.size()) {
+    case 8:
+        return somar<8>(avaliações, observados, estimados);
+    case 4:
+        return somar<4>(avaliações, observados, estimados);
+    case 2:
+        return somar<2>(avaliações, observados, estimados);
+    default:
+        for (std::size_t s = 0; s < avaliações.size(); ++s)
+            somar<1>(avaliações.subspan(s, 1), observados, estimados.subspan(s), avaliações.size());
     }
-    // Squares only add up, so that a sum past the largest double is still there at the end.
-    avaliação.soma = finito(soma);
-    avaliação.contados += contados;
+}
+
+std::vector<Avaliação> avaliarEmConjuntos(Conjuntos pontos, Largura largura,
+                                          const std::function<void(Conjuntos, std::span<Avaliação>)>& somar) {
+    std::vector<Avaliação> avaliações(pontos.size());
+    const std::span todas{avaliações};
+    for (std::size_t de = 0; de < pontos.size();) {
+        const auto quantos = conjuntosDeUmaVez(pontos.size() - de, largura);
+        try {
+            somar(pontos.subspan(de, quantos), todas.subspan(de, quantos));
+        } catch (const ErroExecucao&) {
+            // Another of these points may have failed before the one that comes first.
+            std::ranges::fill(todas.subspan(de, quantos), Avaliação{});
+            for (std::size_t k = de; k < de + quantos; ++k) somar(pontos.subspan(k, 1), todas.subspan(k, 1));
+        }
+        de += quantos;
+    }
+    return avaliações;
 }
 
 } // namespace varenta

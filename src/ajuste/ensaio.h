@@ -3,6 +3,8 @@
 #include "ajuste/busca.h"
 #include "simulacao/lote.h"
 
+#include <cstddef>
+#include <functional>
 #include <span>
 #include <vector>
 
@@ -76,36 +78,46 @@ EnsaioMóvel ensaioMóvel(const AspersorDoAjuste& aspersor, const VentoDoEnsaio&
 /// Raises "Divisão por zero" for a test that caught nothing.
 double igualarÀVazão(EnsaioDoAjuste& ensaio, float Q);
 
+/// One or more sets of parameters that are evaluated together. What comes of them stands in one row: all that
+/// belongs to the first point or observation, set by set, then all of the second.
+using Conjuntos = std::span<const Parametros>;
+/// One set alone. It must outlive what this returns.
+inline Conjuntos sozinho(const Parametros& p) { return {&p, 1}; }
+
 /// The intensities (mm/h) that the model estimates at all points of a test, in their order; counts are added
 /// to `contagem`. Raises as the model does.
-std::vector<double> intensidadesEstimadas(const EnsaioDoAjuste& ensaio, const Parametros& p,
+std::vector<double> intensidadesEstimadas(const EnsaioDoAjuste& ensaio, Conjuntos conjuntos,
                                           ContagemDoModelo& contagem, Largura largura = larguraEmUso());
 
 /// The depth (mm) at each position from the intensities at its points: their sum, times e / v.
-std::vector<double> lâminasEstimadas(const EnsaioMóvel& ensaio, std::span<const double> intensidades);
+std::vector<double> lâminasEstimadas(const EnsaioMóvel& ensaio, std::span<const double> intensidades,
+                                     std::size_t conjuntos = 1);
 
 /// What the model estimates in place of each observation.
-std::vector<double> estimados(const EnsaioDeMalha& ensaio, const Parametros& p, ContagemDoModelo& contagem,
+std::vector<double> estimados(const EnsaioDeMalha& ensaio, Conjuntos conjuntos, ContagemDoModelo& contagem,
                               Largura largura = larguraEmUso());
-std::vector<double> estimados(const EnsaioMóvel& ensaio, const Parametros& p, ContagemDoModelo& contagem,
+std::vector<double> estimados(const EnsaioMóvel& ensaio, Conjuntos conjuntos, ContagemDoModelo& contagem,
                               Largura largura = larguraEmUso());
 
-/// Adds to `avaliação` the squared deviations of the estimates from the observations, in their order. Raises
-/// "Estouro" where the sum grows past the largest double.
-void somarDesvios(Avaliação& avaliação, std::span<const double> observados,
+/// Adds to the evaluation of each set the squared deviations of its estimates from the observations, in their
+/// order. Raises "Estouro" where a sum grows past the largest double.
+void somarDesvios(std::span<Avaliação> avaliações, std::span<const double> observados,
                   std::span<const double> estimados);
+
+/// What each of `pontos` is worth, by `somar`, which adds to the evaluations of some of them, given together.
+/// Raises what it would raise for the points one after another.
+std::vector<Avaliação> avaliarEmConjuntos(Conjuntos pontos, Largura largura,
+                                          const std::function<void(Conjuntos, std::span<Avaliação>)>& somar);
 
 /// The objective of a fit: all deviations of all tests in one sum. The tests and `contagem` must outlive it.
 template <class Ensaio>
 Objetivo objetivoDosEnsaios(const std::vector<Ensaio>& ensaios, ContagemDoModelo& contagem,
                             Largura largura = larguraEmUso()) {
     return [&ensaios, &contagem, largura](std::span<const Parametros> pontos) {
-        std::vector<Avaliação> avaliações(pontos.size());
-        for (std::size_t k = 0; k < pontos.size(); ++k)
+        return avaliarEmConjuntos(pontos, largura, [&](Conjuntos conjuntos, std::span<Avaliação> avaliações) {
             for (const auto& ensaio : ensaios)
-                somarDesvios(avaliações[k], ensaio.observados,
-                             estimados(ensaio, pontos[k], contagem, largura));
-        return avaliações;
+                somarDesvios(avaliações, ensaio.observados, estimados(ensaio, conjuntos, contagem, largura));
+        });
     };
 }
 

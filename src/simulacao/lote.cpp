@@ -1,7 +1,8 @@
 #include "simulacao/lote.h"
 
 #include <algorithm>
-#include <cstddef>
+#include <bit>
+#include <vector>
 
 namespace varenta {
 namespace {
@@ -9,14 +10,16 @@ namespace {
 /// Fewer points than this are evaluated one by one: a vector of them would be mostly empty.
 constexpr std::size_t poucosPontos = 4;
 
+Lote::Conjunto parâmetrosDe(const CondiçõesDoPonto& c) { return {c.A, c.B, c.C, c.D, c.E, c.F}; }
+
 } // namespace
 
 Lote::Lote(const CondiçõesDoPonto& condições)
     : emVetores_{preparar(condições, senosDe(condições), preparo_)} {
-    preparo_.divisoresConhecidos = magnitudesUsuais(condições, preparo_.senos.s2);
+    definirParâmetros(parâmetrosDe(condições));
 }
 
-void Lote::definirParâmetros(std::span<const double, 6> p) {
+void Lote::definirParâmetros(const Conjunto& p) {
     auto& c = preparo_.condições;
     c.A = p[0];
     c.B = p[1];
@@ -24,7 +27,7 @@ void Lote::definirParâmetros(std::span<const double, 6> p) {
     c.D = p[3];
     c.E = p[4];
     c.F = p[5];
-    preparo_.divisoresConhecidos = magnitudesUsuais(c, preparo_.senos.s2);
+    definirConjuntos(preparo_, {&p, 1});
 }
 
 void Lote::avaliar(std::span<const double> x, std::span<const double> y, std::span<double> i,
@@ -45,6 +48,43 @@ void Lote::avaliar(std::span<const double> x, std::span<const double> y, std::sp
         const auto n = std::min(maiorBloco, i.size() - de);
         if (!núcleo(preparo_, &x[de], &y[de], &i[de], n, contagem)) umPorUm(de, de + n);
     }
+}
+
+bool Lote::emBlocos(AvaliarBloco* núcleo, std::span<const double> x, std::span<const double> y,
+                    std::span<double> i, ContagemDoModelo& contagem) const {
+    const auto maior = maiorBloco / preparo_.conjuntos;
+    for (std::size_t de = 0; de < x.size(); de += maior)
+        if (!núcleo(preparo_, &x[de], &y[de], &i[de * preparo_.conjuntos], std::min(maior, x.size() - de),
+                    contagem))
+            return false;
+    return true;
+}
+
+void Lote::avaliar(std::span<const Conjunto> conjuntos, std::span<const double> x, std::span<const double> y,
+                   std::span<double> i, ContagemDoModelo& contagem, Largura largura) const {
+    auto lote = *this;
+    if (conjuntos.size() == 1) {
+        lote.definirParâmetros(conjuntos.front());
+        return lote.avaliar(x, y, i, contagem, largura);
+    }
+    if (emVetores_ && conjuntos.size() == conjuntosDeUmaVez(conjuntos.size(), largura)) {
+        definirConjuntos(lote.preparo_, conjuntos);
+        auto contada = contagem;
+        if (lote.emBlocos(núcleoDa(largura), x, y, i, contada)) {
+            contagem = contada;
+            return;
+        }
+    }
+    std::vector<double> deUm(x.size());
+    for (std::size_t s = 0; s < conjuntos.size(); ++s) {
+        lote.definirParâmetros(conjuntos[s]);
+        lote.avaliar(x, y, deUm, contagem, largura);
+        for (std::size_t k = 0; k < deUm.size(); ++k) i[k * conjuntos.size() + s] = deUm[k];
+    }
+}
+
+std::size_t conjuntosDeUmaVez(std::size_t quantos, Largura largura) {
+    return std::bit_floor(std::min(quantos, faixasDa(largura)));
 }
 
 void intensidadesEmPontos(std::span<const double> x, std::span<const double> y,

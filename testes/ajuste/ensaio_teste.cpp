@@ -80,7 +80,7 @@ TEST(Ensaio, AVazãoSeIgualaMultiplicando) {
 TEST(Ensaio, SemVentoAMalhaEstimaOPerfilRadial) {
     const auto ensaio = ensaioDeMalha(aspersorDeTeste(), {.W = 0, .direção = 30}, 16, 6, {});
     ContagemDoModelo contagem;
-    const auto i = estimados(ensaio, parâmetrosDeTeste(), contagem);
+    const auto i = estimados(ensaio, sozinho(parâmetrosDeTeste()), contagem);
     ASSERT_EQ(i.size(), 256u);
     for (std::size_t k = 0; k < i.size(); ++k) {
         const double r = std::hypot(ensaio.X[k], ensaio.Y[k]);
@@ -97,7 +97,7 @@ TEST(Ensaio, AEstimativaDaMalhaÉADoPontoComOsÂngulosAbertos) {
     auto comÂngulos = c;
     comÂngulos.setor = Setor::entreÂngulosSecos;
     ContagemDoModelo contagem;
-    const auto i = estimados(ensaio, p, contagem);
+    const auto i = estimados(ensaio, sozinho(p), contagem);
     for (std::size_t k = 0; k < i.size(); ++k) {
         EXPECT_EQ(i[k], intensidadeEmPonto(ensaio.X[k], ensaio.Y[k], c).valor);
         EXPECT_NEAR(i[k], intensidadeEmPonto(ensaio.X[k], ensaio.Y[k], comÂngulos).valor, 1e-9);
@@ -127,7 +127,7 @@ TEST(Ensaio, SemVentoALâminaÉSimétricaEOGiroMantémAVazão) {
     const auto estimar = [](double giro) {
         ContagemDoModelo contagem;
         return estimados(ensaioMóvel(aspersorDeTeste(), {.W = 0, .direção = 0}, 40, 2, 30, giro, {}),
-                         parâmetrosDeTeste(), contagem);
+                         sozinho(parâmetrosDeTeste()), contagem);
     };
     const auto inteiro = estimar(360), parte = estimar(240);
     for (std::size_t j = 0; j < 20; ++j) EXPECT_NEAR(inteiro[j], inteiro[39 - j], 1e-9);
@@ -140,11 +140,13 @@ TEST(Ensaio, SemVentoALâminaÉSimétricaEOGiroMantémAVazão) {
 
 TEST(Ensaio, OsDesviosSomamNaOrdemESóContamOndeHáDesvio) {
     Avaliação a;
-    somarDesvios(a, std::vector<double>{1, 0, 5}, std::vector<double>{3, 0, 4});
+    somarDesvios({&a, 1}, std::vector<double>{1, 0, 5}, std::vector<double>{3, 0, 4});
     EXPECT_EQ(a, (Avaliação{5, 2}));
-    somarDesvios(a, std::vector<double>{1}, std::vector<double>{2});
+    somarDesvios({&a, 1}, std::vector<double>{1}, std::vector<double>{2});
     EXPECT_EQ(a, (Avaliação{6, 3}));
-    EXPECT_EQ(erroDe([&] { somarDesvios(a, std::vector<double>{1e200}, std::vector<double>{0}); }),
+    EXPECT_EQ(erroDe([&] {
+                  somarDesvios({&a, 1}, std::vector<double>{1e200}, std::vector<double>{0});
+              }),
               "Estouro");
 }
 
@@ -161,17 +163,73 @@ TEST(Ensaio, OObjetivoSomaTodosOsEnsaiosNumaSóSoma) {
     for (std::size_t k = 0; k < 2; ++k) {
         Avaliação esperada;
         for (const auto& ensaio : ensaios)
-            somarDesvios(esperada, observados, estimados(ensaio, pontos[k], contagem));
+            somarDesvios({&esperada, 1}, observados, estimados(ensaio, sozinho(pontos[k]), contagem));
         EXPECT_EQ(valores[k], esperada);
+    }
+}
+
+/// The estimates of several sets in one row, as those of each alone would stand in it.
+template <class Ensaio>
+std::vector<double> intercalados(const Ensaio& ensaio, const std::vector<Parametros>& conjuntos) {
+    std::vector<double> i;
+    ContagemDoModelo contagem;
+    for (std::size_t s = 0; s < conjuntos.size(); ++s) {
+        const auto deste = estimados(ensaio, sozinho(conjuntos[s]), contagem);
+        i.resize(deste.size() * conjuntos.size());
+        for (std::size_t k = 0; k < deste.size(); ++k) i[k * conjuntos.size() + s] = deste[k];
+    }
+    return i;
+}
+
+TEST(Ensaio, ConjuntosJuntosValemComoCadaUm) {
+    auto malha =
+        ensaioDeMalha(aspersorDeTeste(), {.W = 3, .direção = 45}, 14, 6, std::vector<double>(14 * 14, 3.5));
+    const auto móvel = ensaioMóvel(aspersorDeTeste(), {.W = 2, .direção = 120}, 20, 4, 35, 300,
+                                   std::vector<double>(20, 12.0));
+    std::vector<Parametros> conjuntos;
+    for (std::size_t s = 0; s < 13; ++s) {
+        conjuntos.push_back(parâmetrosDeTeste());
+        conjuntos.back()[s % 6] += 0.01 * static_cast<double>(s);
+        ContagemDoModelo contagem;
+        EXPECT_EQ(estimados(malha, conjuntos, contagem), intercalados(malha, conjuntos));
+        EXPECT_EQ(estimados(móvel, conjuntos, contagem), intercalados(móvel, conjuntos));
+        EXPECT_EQ(objetivoDosEnsaios(std::vector{malha}, contagem)(conjuntos).back(),
+                  objetivoDosEnsaios(std::vector{malha}, contagem)(sozinho(conjuntos.back())).front());
+    }
+}
+
+TEST(Ensaio, DeVáriosPontosFalhaOQueVemPrimeiro) {
+    // The first point fails in the second test only; the second one in the first test already.
+    const std::vector<Parametros> pontos(2);
+    const auto erro = erroDe([&] {
+        for (const auto largura : largurasDisponíveis())
+            avaliarEmConjuntos(pontos, largura, [&](Conjuntos conjuntos, std::span<Avaliação> avaliações) {
+                avaliações.front().soma = 1;
+                if (conjuntos.size() > 1 || &conjuntos.front() == &pontos[1]) throw ErroExecucao{"o segundo"};
+                throw ErroExecucao{"o primeiro"};
+            });
+    });
+    EXPECT_EQ(erro, "o primeiro");
+}
+
+TEST(Ensaio, OQueFalhaSóJuntoValeSozinho) {
+    const std::vector<Parametros> pontos(12);
+    for (const auto largura : largurasDisponíveis()) {
+        const auto avaliações =
+            avaliarEmConjuntos(pontos, largura, [&](Conjuntos conjuntos, std::span<Avaliação> estas) {
+                for (auto& avaliação : estas) avaliação.soma = avaliação.soma + 1;
+                if (conjuntos.size() > 1) throw ErroExecucao{"juntos"};
+            });
+        EXPECT_EQ(avaliações, std::vector(12, Avaliação{.soma = 1, .contados = 0})) << nomeDa(largura);
     }
 }
 
 TEST(Ensaio, NosVerdadeirosParâmetrosNãoHáDesvio) {
     auto ensaio = ensaioDeMalha(aspersorDeTeste(), {.W = 3, .direção = 45}, 14, 6, {});
     ContagemDoModelo contagem;
-    ensaio.observados = estimados(ensaio, parâmetrosDeTeste(), contagem);
+    ensaio.observados = estimados(ensaio, sozinho(parâmetrosDeTeste()), contagem);
     Avaliação a;
-    somarDesvios(a, ensaio.observados, estimados(ensaio, parâmetrosDeTeste(), contagem));
+    somarDesvios({&a, 1}, ensaio.observados, estimados(ensaio, sozinho(parâmetrosDeTeste()), contagem));
     EXPECT_EQ(a, (Avaliação{0, 0}));
 }
 

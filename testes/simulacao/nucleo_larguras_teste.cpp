@@ -31,19 +31,6 @@ using Sorteio = std::mt19937_64;
 double entre(Sorteio& sorteio, double a, double b) { return std::uniform_real_distribution{a, b}(sorteio); }
 bool umaEm(Sorteio& sorteio, unsigned quantas) { return sorteio() % quantas == 0; }
 
-std::size_t faixasDa(Largura largura) {
-    switch (largura) {
-    case Largura::bits128:
-        return 2;
-    case Largura::bits256:
-        return 4;
-    case Largura::bits512:
-        return 8;
-    default:
-        return 1;
-    }
-}
-
 constexpr Setor modos[] = {Setor::entreÂngulosSecos, Setor::círculoInteiro, Setor::semCunhaÀFrente};
 
 /// Conditions far from any that a screen would hold: they make the model overflow, divide by zero, stop.
@@ -331,6 +318,94 @@ TEST(NucleoLarguras, QualquerTamanhoEQualquerAlinhamentoValemComoPontoAPonto) {
             std::size_t falha = 0;
             ASSERT_NO_FATAL_FAILURE(exigirLote(p, c, r, largura, de, falha));
         }
+}
+
+CondiçõesDoPonto comParâmetros(CondiçõesDoPonto c, const Lote::Conjunto& p) {
+    c.A = p[0], c.B = p[1], c.C = p[2], c.D = p[3], c.E = p[4], c.F = p[5];
+    return c;
+}
+
+/// Holds the points under several sets against each point under each set. Gives whether a set failed.
+void compararConjuntos(const Pontos& p, const CondiçõesDoPonto& c,
+                       const std::vector<Lote::Conjunto>& conjuntos, Largura largura, bool& falhou) {
+    std::string erro;
+    ContagemDoModelo esperada;
+    std::vector<Referência> referências;
+    for (const auto& conjunto : conjuntos) {
+        referências.push_back(umAUm(p, comParâmetros(c, conjunto)));
+        for (const auto& deste : referências.back().erros)
+            if (erro.empty()) erro = deste;
+        for (const auto& ponto : referências.back().valores) {
+            esperada.passes += static_cast<std::size_t>(ponto.passes);
+            esperada.semConvergência += !ponto.convergiu;
+            esperada.fatorNãoPositivo += !ponto.fatorPositivo;
+        }
+    }
+    std::vector<double> i(p.x.size() * conjuntos.size());
+    ContagemDoModelo contagem;
+    ASSERT_EQ(erroDe([&] { Lote{c}.avaliar(conjuntos, p.x, p.y, i, contagem, largura); }), erro);
+    falhou = !erro.empty();
+    if (falhou) return;
+
+    for (std::size_t s = 0; s < conjuntos.size(); ++s)
+        for (std::size_t k = 0; k < p.x.size(); ++k)
+            ASSERT_EQ(std::bit_cast<std::uint64_t>(i[k * conjuntos.size() + s]),
+                      std::bit_cast<std::uint64_t>(referências[s].valores[k].valor))
+                << nomeDa(largura) << ", conjunto " << s << " de " << conjuntos.size();
+    ASSERT_EQ(contagem.pontos, i.size());
+    ASSERT_EQ(contagem.passes, esperada.passes);
+    ASSERT_EQ(contagem.semConvergência, esperada.semConvergência);
+    ASSERT_EQ(contagem.fatorNãoPositivo, esperada.fatorNãoPositivo);
+}
+
+TEST(NucleoLarguras, VáriosConjuntosDeParâmetrosDãoOQueCadaUmDá) {
+    Sorteio sorteio{2029};
+    int inteiros = 0, falhos = 0;
+    for (int vez = 0; vez < 300; ++vez) {
+        const bool absurdos = umaEm(sorteio, 3);
+        auto c = sortearComuns(sorteio, 8);
+        c.setor = modos[sorteio() % 3];
+        std::vector<Lote::Conjunto> conjuntos(1 + sorteio() % 9);
+        for (auto& conjunto : conjuntos) {
+            const auto outras = absurdos && umaEm(sorteio, 2) ? sortearAbsurdas(sorteio) : c;
+            conjunto = {outras.A, outras.B, outras.C, outras.D, outras.E, outras.F};
+            conjunto[sorteio() % 6] += entre(sorteio, -0.1, 0.1);
+        }
+        const auto p = sortearPontos(sorteio, c.R, 1 + sorteio() % 200, 100'000);
+        for (const auto largura : largurasDisponíveis()) {
+            bool falhou = false;
+            ASSERT_NO_FATAL_FAILURE(compararConjuntos(p, c, conjuntos, largura, falhou));
+            ++(falhou ? falhos : inteiros);
+        }
+    }
+    EXPECT_GT(inteiros, 500);
+    EXPECT_GT(falhos, 50);
+}
+
+TEST(NucleoLarguras, ConjuntosQueEnchemUmVetorVãoDeUmaVez) {
+    const auto c = condiçõesDeTeste();
+    Pontos p;
+    for (int k = 0; k < 30; ++k) p.juntar(1 + k, 31 - k);
+    for (const auto largura : largurasDisponíveis()) {
+        std::vector<Lote::Conjunto> conjuntos(faixasDa(largura), {c.A, c.B, c.C, c.D, c.E, c.F});
+        for (std::size_t s = 0; s < conjuntos.size(); ++s) conjuntos[s][0] += 0.001 * static_cast<double>(s);
+        std::vector<double> i(p.x.size() * conjuntos.size());
+        ContagemDoModelo contagem;
+        Lote{c}.avaliar(conjuntos, p.x, p.y, i, contagem, largura);
+        EXPECT_EQ(contagem.faixas, conjuntos.size());
+        EXPECT_EQ(contagem.emVetores, largura == Largura::escalar ? 0 : i.size());
+    }
+}
+
+TEST(Largura, UmaPartidaÉAMaiorPotênciaDe2QueCabeNasFaixas) {
+    const auto bits512 = Largura::bits512;
+    EXPECT_EQ(conjuntosDeUmaVez(72, bits512), 8u);
+    EXPECT_EQ(conjuntosDeUmaVez(7, bits512), 4u);
+    EXPECT_EQ(conjuntosDeUmaVez(3, bits512), 2u);
+    EXPECT_EQ(conjuntosDeUmaVez(1, bits512), 1u);
+    EXPECT_EQ(conjuntosDeUmaVez(72, Largura::bits256), 4u);
+    EXPECT_EQ(conjuntosDeUmaVez(72, Largura::bits128), 2u);
+    EXPECT_EQ(conjuntosDeUmaVez(72, Largura::escalar), 1u);
 }
 
 TEST(Largura, OProcessadorTemSempreAEscalarEAMaisLargaÉAEscolhidaSemPedido) {

@@ -21,6 +21,19 @@ std::string_view nomeDa(Largura largura) {
     }
 }
 
+std::size_t faixasDa(Largura largura) {
+    switch (largura) {
+    case Largura::bits128:
+        return 2;
+    case Largura::bits256:
+        return 4;
+    case Largura::bits512:
+        return 8;
+    default:
+        return 1;
+    }
+}
+
 std::vector<Largura> largurasDisponíveis() {
     std::vector<Largura> larguras = {Largura::escalar};
 #if defined(VARENTA_VETORES)

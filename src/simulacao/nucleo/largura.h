@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -13,6 +14,9 @@ enum class Largura { escalar, bits128, bits256, bits512 };
 
 /// Its name in VARENTA_LARGURA: "escalar", "128", "256", "512".
 std::string_view nomeDa(Largura largura);
+
+/// How many go at once: 1, 2, 4 or 8.
+std::size_t faixasDa(Largura largura);
 
 /// Those that this processor can run, the widest last.
 std::vector<Largura> largurasDisponíveis();

@@ -3,14 +3,18 @@
 #include "simulacao/modelo_vento.h"
 #include "simulacao/nucleo/largura.h"
 
+#include <array>
 #include <cstddef>
+#include <span>
 
 /// The intensities of many points at once. `nucleo.cpp` is compiled once for each width of vectors that the
 /// processors of the architecture may have; `preparo.cpp` holds what is done once for all points of a batch.
 namespace varenta {
 
-/// Points that a kernel takes at a time, of any width.
+/// Intensities that a kernel makes at a time, of any width.
 inline constexpr std::size_t maiorBloco = 512;
+/// Lanes of the widest vector.
+inline constexpr std::size_t maisFaixas = 8;
 
 /// Where the wetted sector begins and ends, on a stand-in of the angle theta that costs one division and no
 /// arc tangent: 0 on the positive x axis, 1 on the negative y axis, 2 and 3 on the next, 4 after a full turn.
@@ -30,8 +34,11 @@ struct LimitesDoSetor {
 
 /// The radial profile by segment: i = (rho - limite) x variação / largura + início.
 struct SegmentosDoPerfil {
-    double limite[pontosDoPerfil - 1], variação[pontosDoPerfil - 1];
-    double largura[pontosDoPerfil - 1], início[pontosDoPerfil - 1];
+    /// The segments, and what fills whole vectors of any width.
+    static constexpr std::size_t lugares = 24;
+    static_assert(lugares >= pontosDoPerfil - 1);
+
+    double limite[lugares], variação[lugares], largura[lugares], início[lugares];
 };
 
 /// One set of conditions, made ready. Plain numbers: code that is compiled for one processor must not bring
@@ -39,9 +46,14 @@ struct SegmentosDoPerfil {
 struct PreparoDoLote {
     CondiçõesDoPonto condições;
     Senos senos;
+    /// The sets of parameters under which each point is evaluated, 1, 2, 4 or 8 of them but no more than a
+    /// vector has lanes: A to F, each a row with the sets in turn over and over.
+    std::size_t conjuntos;
+    double parâmetros[6][maisFaixas];
     /// The least x² + y² whose square root isn't below R.
     double foraDoAlcance;
-    /// Whether W, B, D, E, F, R and s2 have magnitudes that let known divisors do for true division.
+    /// Whether W, R, s2 and the B, D, E and F of all sets have magnitudes that let known divisors do for true
+    /// division.
     bool divisoresConhecidos;
     LimitesDoSetor setor;
     CunhaSeca cunha;
@@ -49,17 +61,17 @@ struct PreparoDoLote {
     double escala; // 360 / `anguloGiro`, or 1 in the full circle
 };
 
-/// Makes ready what the kernels read but `divisoresConhecidos`, which hangs on the parameters A to F too.
+/// Makes ready what the kernels read but what hangs on the parameters A to F, `definirConjuntos`.
 /// False where the conditions are none for them: no finite scale, or a reach whose square is none of a usual
 /// magnitude.
 bool preparar(const CondiçõesDoPonto& condições, const Senos& senos, PreparoDoLote& preparo);
 
-/// Whether the magnitudes of all constants let known divisors do for true division.
-bool magnitudesUsuais(const CondiçõesDoPonto& condições, double s2);
+/// Sets `conjuntos`, `parâmetros` and `divisoresConhecidos`.
+void definirConjuntos(PreparoDoLote& preparo, std::span<const std::array<double, 6>> conjuntos);
 
-/// Evaluates the points (x[k], y[k]), 1 to `maiorBloco` of them, into i[k], and adds to `contagem`. False
-/// where one of them may have met an error; then nothing is written, and the points are to be evaluated one
-/// by one.
+/// Evaluates the points (x[k], y[k]), n of them, under each set s into i[k conjuntos + s], which makes 1 to
+/// `maiorBloco` intensities, and adds to `contagem`. False where one of them may have met an error; then
+/// nothing is written, and the points are to be evaluated one by one.
 using AvaliarBloco = bool(const PreparoDoLote& preparo, const double* x, const double* y, double* i,
                           std::size_t n, ContagemDoModelo& contagem);
 

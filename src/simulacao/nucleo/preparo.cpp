@@ -56,6 +56,13 @@ SegmentosDoPerfil segmentosDoPerfil(const PontosDoPerfil& intensidades) {
 
 bool magnitudeUsual(double a) { return std::fabs(a) >= 0x1p-32 && std::fabs(a) <= 0x1p32; }
 
+/// Of the parameters A to F. The terms of A and C may vanish.
+bool magnitudesUsuais(const std::array<double, 6>& p) {
+    const auto& [A, B, C, D, E, F] = p;
+    return std::fabs(A) <= 0x1p32 && magnitudeUsual(B) && std::fabs(C) <= 0x1p32 && magnitudeUsual(D) &&
+           magnitudeUsual(E) && magnitudeUsual(F);
+}
+
 double quadradoForaDoAlcance(double R) {
     double r2 = R * R;
     while (std::sqrt(r2) >= R) r2 = std::nextafter(r2, 0);
@@ -65,10 +72,15 @@ double quadradoForaDoAlcance(double R) {
 
 } // namespace
 
-bool magnitudesUsuais(const CondiçõesDoPonto& c, double s2) {
-    for (const double a : {c.W, c.B, c.D, c.E, c.F, c.R, s2})
-        if (!magnitudeUsual(a)) return false;
-    return std::fabs(c.A) <= 0x1p32 && std::fabs(c.C) <= 0x1p32;
+void definirConjuntos(PreparoDoLote& preparo, std::span<const std::array<double, 6>> conjuntos) {
+    preparo.conjuntos = conjuntos.size();
+    for (std::size_t letra = 0; letra < std::size(preparo.parâmetros); ++letra)
+        for (std::size_t faixa = 0; faixa < maisFaixas; ++faixa)
+            preparo.parâmetros[letra][faixa] = conjuntos[faixa % conjuntos.size()][letra];
+    const auto& c = preparo.condições;
+    preparo.divisoresConhecidos = magnitudeUsual(c.W) && magnitudeUsual(c.R) &&
+                                  magnitudeUsual(preparo.senos.s2) &&
+                                  std::ranges::all_of(conjuntos, magnitudesUsuais);
 }
 
 bool preparar(const CondiçõesDoPonto& c, const Senos& senos, PreparoDoLote& preparo) {

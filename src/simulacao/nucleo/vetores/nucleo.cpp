@@ -5,8 +5,8 @@
 /// work, so that a point which never settles holds up its own vector alone. A lane that is done keeps its
 /// solution. A pass begins with two square roots and two quotients, each waiting for the one before: they are
 /// made one vector ahead, while the rest of the pass of the vector before keeps the processor's units busy.
-/// 2. Which of the solutions lie in the reach; which of these in the sector; for those the profile and the
-/// area factor: each step over the vectors that the one before left in its list.
+/// 2. Which of the solutions lie in the reach; which of these in the sector, unless it is all; for those the
+/// profile and the area factor: each step over the vectors that the one before left in its list.
 ///
 /// Whatever isn't finite in a lane that counts makes the whole block be evaluated again, point by point,
 /// which raises the error that it should at the point where it should. So nothing is checked within a pass of
@@ -24,11 +24,10 @@
 namespace varenta {
 namespace {
 
-using modelo::constantes;
-
 constexpr std::size_t vetoresDoBloco = maiorBloco / faixas;
 
-/// The points of a block, each number in a row of its own.
+/// The points of a block, each number in a row of its own. A point that is evaluated under several sets of
+/// parameters stands there once for each, one next to the other.
 struct Bloco {
     /// The points, in whole vectors.
     const double *x0, *y0;
@@ -65,13 +64,31 @@ Máscara ocupadas(const Bloco& b, std::size_t v) {
     return Vetor::lido(lugares) < Vetor{static_cast<double>(b.n) - static_cast<double>(v * faixas)};
 }
 
+/// R and W, and the parameters of each lane: a vector begins with the first set.
+struct CondiçõesDasFaixas {
+    explicit CondiçõesDasFaixas(const PreparoDoLote& p)
+        : R{p.condições.R}, W{p.condições.W}, A{Vetor::lido(p.parâmetros[0])},
+          B{Vetor::lido(p.parâmetros[1])}, C{Vetor::lido(p.parâmetros[2])}, D{Vetor::lido(p.parâmetros[3])},
+          E{Vetor::lido(p.parâmetros[4])}, F{Vetor::lido(p.parâmetros[5])} {}
+
+    Vetor R, W, A, B, C, D, E, F;
+};
+
+using ConstantesQuaisquer = modelo::Constantes<Vetor>;
+using ConstantesUsuais = modelo::Constantes<Vetor, DivisorConhecido, DivisorRepetido>;
+
+ConstantesQuaisquer constantesQuaisquer(const PreparoDoLote& p) {
+    return modelo::constantes<Vetor>(CondiçõesDasFaixas{p}, p.senos.s2);
+}
+ConstantesUsuais constantesUsuais(const PreparoDoLote& p) {
+    return modelo::constantes<Vetor, DivisorConhecido, DivisorRepetido>(CondiçõesDasFaixas{p}, p.senos.s2);
+}
+
 /// A pass of any magnitudes. Apart from the usual one, so that the two don't share the registers.
 [[gnu::noinline, gnu::flatten]] modelo::Passe<Vetor> passeQualquer(Vetor x, Vetor y, Vetor x0, Vetor y0,
                                                                    const PreparoDoLote& p) {
-    return modelo::passeDeNewton(x, y, x0, y0, constantes<Vetor>(p.condições, p.senos.s2));
+    return modelo::passeDeNewton(x, y, x0, y0, constantesQuaisquer(p));
 }
-
-using ConstantesUsuais = modelo::Constantes<Vetor, DivisorConhecido, DivisorRepetido>;
 
 /// How a pass begins.
 struct Começo {
@@ -90,7 +107,7 @@ Começo começo(Vetor x, Vetor y, const ConstantesUsuais& c) {
 
 /// Stage 1: the solutions, in b.x and b.y.
 [[gnu::flatten]] void resolver(Bloco& b, const PreparoDoLote& p, Contas& contas) {
-    const auto c = constantes<Vetor, DivisorConhecido, DivisorRepetido>(p.condições, p.senos.s2);
+    const auto c = constantesUsuais(p);
     Lista ativos;
     for (std::size_t v = 0; v < b.vetores; ++v) ativos.juntar(v, ocupadas(b, v));
     const double* x = b.x0;
@@ -190,11 +207,6 @@ struct Leitura {
     Máscara molhadas;
 };
 
-/// In the full circle.
-Leitura leituraNoCírculo(Vetor x, Vetor y, Máscara dentro, const PreparoDoLote& p) {
-    return {sqrt(x * x + y * y) / Vetor{p.condições.R}, dentro};
-}
-
 /// Of the ground point (xs, ys), outside the wedge ahead.
 Leitura leituraSemCunha(Vetor xs, Vetor ys, Máscara dentro, const PreparoDoLote& p, Contas&) {
     const Vetor R{p.condições.R}, zero{0.0};
@@ -235,15 +247,7 @@ Lista molhados(Bloco& b, const Lista& lista, const PreparoDoLote& p, Contas& con
             return ler(x * cosseno + y * seno, y * cosseno - x * seno, dentro, p, contas);
         });
     };
-    switch (p.condições.setor) {
-    case Setor::círculoInteiro:
-        return molhados(b, lista,
-                        [&](Vetor x, Vetor y, Máscara dentro) { return leituraNoCírculo(x, y, dentro, p); });
-    case Setor::semCunhaÀFrente:
-        return noChão(leituraSemCunha);
-    default:
-        return noChão(leituraNoSetor);
-    }
+    return p.condições.setor == Setor::semCunhaÀFrente ? noChão(leituraSemCunha) : noChão(leituraNoSetor);
 }
 
 /// J11 J22 at the solution.
@@ -255,14 +259,16 @@ Vetor fatorDeÁrea(Vetor x, Vetor y, const Lugar& lugar, const Constantes& c) {
 
 /// The same of any magnitudes.
 [[gnu::noinline, gnu::flatten]] Vetor fatorQualquer(Vetor x, Vetor y, const PreparoDoLote& p) {
-    const auto c = constantes<Vetor>(p.condições, p.senos.s2);
+    const auto c = constantesQuaisquer(p);
     return fatorDeÁrea(x, y, modelo::lugar(x, y, c), c);
 }
 
-/// The intensities of those of the list, in place of their relative distances.
-void intensidades(Bloco& b, const Lista& lista, const PreparoDoLote& p, Contas& contas) {
+/// The intensities of those of the list, in b.i. `relativa(k, r)` gives the relative distances of the points
+/// from b.x[k] on, which lie r m from the sprinkler: 0 to 1 in the lanes of the list.
+template <class Relativa>
+void intensidades(Bloco& b, const Lista& lista, const PreparoDoLote& p, Contas& contas, Relativa&& relativa) {
     if (lista.quantos == 0) return;
-    const auto c = constantes<Vetor, DivisorConhecido, DivisorRepetido>(p.condições, p.senos.s2);
+    const auto c = constantesUsuais(p);
     const Vetor zero{0.0};
     Máscara ruins = nenhuma();
     const auto começar = [&](std::size_t n) {
@@ -277,7 +283,8 @@ void intensidades(Bloco& b, const Lista& lista, const PreparoDoLote& p, Contas& 
         const Vetor x = Vetor::lido(b.x + k), y = Vetor::lido(b.y + k);
         Vetor fator = fatorDeÁrea(x, y, este.lugar, c);
         if (!este.usual || !p.divisoresConhecidos || duvidoso(fator)) fator = fatorQualquer(x, y, p);
-        const Vetor i = noPerfil(Vetor::lido(b.i + k), p.perfil) * Vetor{p.escala};
+        const Vetor rho = onde(lista.faixas[n], relativa(k, este.lugar.r), zero);
+        const Vetor i = noPerfil(rho, p.perfil) * Vetor{p.escala};
         const Máscara molhadas = lista.faixas[n] & !(i == zero);
         const Vetor valor = i / fator;
         ruins = ruins | (molhadas & !(finitas(valor) & finitas(fator)));
@@ -291,39 +298,60 @@ void intensidades(Bloco& b, const Lista& lista, const PreparoDoLote& p, Contas& 
 /// Stage 2: the intensities, in b.i.
 [[gnu::flatten]] void avaliar(Bloco& b, const PreparoDoLote& p, Contas& contas) {
     const Lista dentro = noAlcance(b, p, contas);
-    intensidades(b, molhados(b, dentro, p, contas), p, contas);
+    if (p.condições.setor == Setor::círculoInteiro) {
+        const Vetor R{p.condições.R};
+        intensidades(b, dentro, p, contas, [&](std::size_t, Vetor r) { return r / R; });
+    } else {
+        intensidades(b, molhados(b, dentro, p, contas), p, contas,
+                     [&](std::size_t k, Vetor) { return Vetor::lido(b.i + k); });
+    }
 }
 
-/// Whole vectors of a row of numbers: the row itself, or a copy in `cópia` that repeats the last.
-const double* emVetoresInteiros(const double* linha, std::size_t n, double* cópia) {
-    if (n % faixas == 0) return linha;
-    for (std::size_t k = 0; k < n; ++k) cópia[k] = linha[k];
-    for (std::size_t k = n; k % faixas != 0; ++k) cópia[k] = linha[n - 1];
-    return cópia;
-}
+/// A row of numbers for a block.
+class Linha {
+  public:
+    /// Whole vectors of the row, each of its n numbers `vezes` times: the row itself, or a copy, filled up
+    /// with the last.
+    const double* emVetoresInteiros(const double* linha, std::size_t n, std::size_t vezes) {
+        if (vezes > 1) return repetida(linha, n, vezes);
+        if (n % faixas == 0) return linha;
+        for (std::size_t k = 0; k < n; ++k) números_[k] = linha[k];
+        Vetor{linha[n - 1]}.gravar(números_ + n);
+        return números_;
+    }
+
+  private:
+    /// Each number fills a vector, and the next ones overwrite what is too much.
+    const double* repetida(const double* linha, std::size_t n, std::size_t vezes) {
+        for (std::size_t k = 0; k < n; ++k) Vetor{linha[k]}.gravar(números_ + k * vezes);
+        return números_;
+    }
+
+    alignas(Registro) double números_[maiorBloco + faixas];
+};
 
 } // namespace
 
 template <>
 bool avaliarBloco<VARENTA_BITS>(const PreparoDoLote& preparo, const double* x, const double* y, double* i,
                                 std::size_t n, ContagemDoModelo& contagem) {
-    double xInteiros[maiorBloco], yInteiros[maiorBloco];
+    Linha x0, y0;
     Bloco b;
-    b.x0 = emVetoresInteiros(x, n, xInteiros);
-    b.y0 = emVetoresInteiros(y, n, yInteiros);
-    b.n = n;
-    b.vetores = (n + faixas - 1) / faixas;
+    b.x0 = x0.emVetoresInteiros(x, n, preparo.conjuntos);
+    b.y0 = y0.emVetoresInteiros(y, n, preparo.conjuntos);
+    b.n = n * preparo.conjuntos;
+    b.vetores = (b.n + faixas - 1) / faixas;
     Contas contas;
     resolver(b, preparo, contas);
     if (!contas.suspeito) avaliar(b, preparo, contas);
     if (contas.suspeito) return false;
 
-    for (std::size_t k = 0; k < n; ++k) i[k] = b.i[k];
-    contagem.pontos += n;
+    for (std::size_t k = 0; k < b.n; ++k) i[k] = b.i[k];
+    contagem.pontos += b.n;
     contagem.passes += contas.passes;
     contagem.semConvergência += contas.semConvergência;
     contagem.fatorNãoPositivo += contas.fatorNãoPositivo;
-    contagem.emVetores += n;
+    contagem.emVetores += b.n;
     if (contagem.faixas < faixas) contagem.faixas = faixas;
     return true;
 }

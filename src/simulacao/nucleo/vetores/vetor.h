@@ -14,7 +14,7 @@ namespace varenta {
 namespace {
 
 // The instructions. `Registro` is the register, `Inteiros` a whole number and `Marcas` a truth value for each
-// of its lanes. `deTabela` reads the doubles in these places of a table.
+// of its lanes. `deTabela` reads the doubles in these places of a table of 24.
 #if VARENTA_BITS == 512
 using Registro = __m512d;
 using Inteiros = __m256i;
@@ -26,7 +26,10 @@ inline Registro raiz(Registro a) { return _mm512_maskz_sqrt_pd(0xff, a); }
 inline Registro módulo(Registro a) { return _mm512_abs_pd(a); }
 inline Inteiros truncar(Registro a) { return _mm512_maskz_cvttpd_epi32(0xff, a); }
 inline Registro deTabela(const double* tabela, Inteiros k) {
-    return _mm512_mask_i32gather_pd(_mm512_setzero_pd(), 0xff, k, tabela, 8);
+    const __m512i lugar = _mm512_maskz_cvtepi32_epi64(0xff, k);
+    const Registro primeiros = _mm512_permutex2var_pd(ler(tabela), lugar, ler(tabela + 8));
+    const Registro últimos = _mm512_maskz_permutexvar_pd(0xff, lugar, ler(tabela + 16));
+    return _mm512_mask_blend_pd(_mm512_cmpge_epi64_mask(lugar, _mm512_set1_epi64(16)), primeiros, últimos);
 }
 inline Registro vezesMais(Registro a, Registro b, Registro c) { return _mm512_fmadd_pd(a, b, c); }
 inline Marcas menor(Registro a, Registro b) { return _mm512_cmp_pd_mask(a, b, _CMP_LT_OQ); }
