@@ -1,7 +1,7 @@
 #include "macaco/acaso.h"
 
+#include "apoio/estado.h"
 #include "comum/arquivo_texto.h"
-#include "fuzz/hostis.h"
 
 #include <algorithm>
 #include <array>
@@ -15,20 +15,27 @@ Acaso::Acaso(unsigned semente) : sorteio_{semente} {
     for (const auto& entrada : std::filesystem::directory_iterator{pasta_.caminho("e")})
         if (entrada.path().extension() == ".txt") amostras_.push_back(entrada.path().string());
     std::ranges::sort(amostras_);
-    for (const auto& amostra : amostras_) danificar(amostra);
+    for (const auto& amostra : amostras_) {
+        const auto bom = lerTexto(amostra);
+        danificar(fuzz::cortes(bom));
+        danificar(fuzz::trocas(bom));
+    }
+    // They hold lines of a mebibyte: those of one example do.
+    danificar(fuzz::estranhos(lerTexto(algumDe(amostras_))));
 }
 
-/// Some of the many damages, other ones with every seed.
-void Acaso::danificar(const std::string& amostra) {
-    const auto bom = lerTexto(amostra);
-    for (const auto& danos : {fuzz::cortes(bom), fuzz::trocas(bom), fuzz::estranhos(bom)})
-        for (int n = 0; n < 2; ++n) {
-            const auto nome = "d/" + std::to_string(danificadas_.size()) + ".txt";
-            danificadas_.push_back(pasta_.gravar(nome, algumDe(danos).bytes));
-        }
+/// Some of the many damages, other ones with every seed. Words like "nan" are left out: a caption may repeat
+/// what a file holds, or what was typed, and would be taken for a result.
+void Acaso::danificar(const std::vector<fuzz::Hostil>& danos) {
+    for (int n = 0; n < 3; ++n) {
+        const auto& bytes = algumDe(danos).bytes;
+        if (nãoÉNúmero(bytes)) continue;
+        const auto nome = "d/" + std::to_string(danificadas_.size()) + ".txt";
+        danificadas_.push_back(pasta_.gravar(nome, bytes));
+    }
 }
 
-/// Words like "nan" are left out: a caption may repeat what was typed, and would be taken for a result.
+/// No words like "nan" here either.
 std::string Acaso::texto() {
     static constexpr std::array textos{
         "0",   "1",      "2",   "3",     "6",     "12",     "18",      "24",         "30",    "40",

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "apoio/pasta_temporaria.h"
+#include "fuzz/hostis.h"
 
 #include <iterator>
 #include <optional>
@@ -36,7 +37,7 @@ class Acaso {
     const PastaTemporaria& pasta() const { return pasta_; }
 
   private:
-    void danificar(const std::string& amostra);
+    void danificar(const std::vector<fuzz::Hostil>& danos);
 
     std::mt19937 sorteio_;
     PastaTemporaria pasta_;

@@ -64,7 +64,7 @@ void Escriba::encerrarGesto() {
 
 void Escriba::recomeçar() {
     passo_ = {};
-    linhas_.clear();
+    linhas_ = {};
 }
 
 void Escriba::anotarAto(std::vector<std::string> palavras) {

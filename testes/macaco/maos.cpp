@@ -80,6 +80,7 @@ std::vector<QWidget*> Maos::janelasUsáveis() const {
 }
 
 QWidget* Maos::widgetUsável(QWidget& janela) {
+    std::erase_if(widgets_, [](const auto& par) { return par.second.empty() || !par.second.front(); });
     auto& todos = widgets_[&janela];
     // Another window may have come to the same address.
     if (todos.empty() || std::ranges::any_of(todos, [](const auto& w) { return w.isNull(); })) {
