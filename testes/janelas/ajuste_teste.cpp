@@ -364,6 +364,11 @@ TEST_F(JanelasDoAjuste, enquanto_ajustam_nada_mais_começa_nem_espera_sua_vez) {
 
 TEST_F(JanelasDoAjuste, enquanto_ajustam_nenhuma_janela_se_fecha) {
     abrirMalha();
+    // Before the search begins one waits in the queue.
+    dialogos().mensagem = [this](const QString& texto) {
+        if (caixas.empty()) QCoreApplication::postEvent(&janela(form_AjVen), new QCloseEvent);
+        caixas.push_back(texto);
+    };
     int tentativas = 0;
     duranteOAjuste(
         [&] {
@@ -371,7 +376,6 @@ TEST_F(JanelasDoAjuste, enquanto_ajustam_nenhuma_janela_se_fecha) {
             for (auto* tela : {static_cast<TelaBase*>(&form_AjCar), static_cast<TelaBase*>(&form_AjVen),
                                static_cast<TelaBase*>(&form_E1)}) {
                 EXPECT_FALSE(janela(*tela).close());
-                QCoreApplication::postEvent(&janela(*tela), new QCloseEvent);
                 QTest::keyClick(&janela(*tela), Qt::Key_Escape);
                 EXPECT_TRUE(tela->visivel) << tela->nome();
             }
