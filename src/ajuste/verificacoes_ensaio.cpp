@@ -106,13 +106,8 @@ Recusa recusaDaVelocidade(CaixaTexto& caixa, int n) {
         "Ensaio " + std::to_string(n) + ": a velocidade do aspersor deve estar entre 0 - 200 m/h!", &caixa};
 }
 
-Recusa recusaSeGiroNãoNumérico(const Lista& lista, int n) {
-    if (éNumérico(lista.texto)) return std::nullopt;
-    return RecusaDeEnsaio{doEnsaio(giroInválido, n), &lista};
-}
-
 Recusa recusaDoGiro(const Lista& lista, int n) {
-    if (const auto recusa = recusaSeGiroNãoNumérico(lista, n)) return recusa;
+    if (!éNumérico(lista.texto)) return RecusaDeEnsaio{doEnsaio(giroInválido, n), &lista};
     const double g = lerEstrito(lista.texto);
     if (g >= 180 && g <= 360) return std::nullopt;
     return RecusaDeEnsaio{"Ensaio " + std::to_string(n) +
@@ -191,8 +186,10 @@ Recusa recusaDoSalvamento(RegistroFormMiE& f, int n) {
     if (!recusa) recusa = recusaDoEspaçoEntreColetores(f, n);
     if (!recusa)
         recusa = recusaDasCélulas(f.flex_A, 2 * inteiroDaLista(f.Combo3), inteiroDaLista(f.Combo1), aoSalvar);
-    if (!recusa) recusa = recusaSeNãoNumérico(f.Text1, velocidadeInválida, n);
-    if (!recusa) recusa = recusaSeGiroNãoNumérico(f.Combo6, n);
+    // Any other speed can be read back.
+    if (!recusa && (!éNumérico(f.Text1.texto) || lerEstrito(f.Text1.texto) == 0))
+        recusa = recusaDaVelocidade(f.Text1, n);
+    if (!recusa) recusa = recusaDoGiro(f.Combo6, n);
     return recusa;
 }
 

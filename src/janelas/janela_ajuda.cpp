@@ -28,6 +28,10 @@ namespace {
 
 constexpr int arquivoDoItem = Qt::UserRole;
 
+// Points. Small print is two sizes below the page's own letter, and must have one left.
+constexpr int menorLetra = 5;
+constexpr int maiorLetra = 40;
+
 QString lerRecurso(const QString& nome) {
     QFile arquivo{QString::fromLatin1(pastaDaAjuda) + nome};
     if (!arquivo.open(QIODevice::ReadOnly))
@@ -226,10 +230,16 @@ QWidget* JanelaDaAjuda::criarBarra() {
                     &QTextBrowser::forwardAvailable);
     barra->addAction(QStringLiteral("Início"), this, [this] { abrir(páginas_.front().arquivo); });
     barra->addAction(QStringLiteral("Letra maior"), QKeySequence::ZoomIn, this,
-                     [this] { página_->zoomIn(); });
+                     [this] { mudarLetra(1); });
     barra->addAction(QStringLiteral("Letra menor"), QKeySequence::ZoomOut, this,
-                     [this] { página_->zoomOut(); });
+                     [this] { mudarLetra(-1); });
     return barra;
+}
+
+/// By so many points, as far as anything can still be read.
+void JanelaDaAjuda::mudarLetra(int pontos) {
+    const int tamanho = página_->font().pointSize() + pontos;
+    if (tamanho >= menorLetra && tamanho <= maiorLetra) página_->zoomIn(pontos);
 }
 
 void JanelaDaAjuda::abrir(const QString& arquivo) { página_->setSource(QUrl{arquivo}); }

@@ -54,6 +54,7 @@ class JanelaDaAjuda : public QWidget {
     QWidget* criarÍndice();
     QWidget* criarBusca();
     QWidget* criarBarra();
+    void mudarLetra(int pontos);
     void abrir(const QString& arquivo);
     void marcarNoConteúdo(const QString& arquivo);
     void filtrarÍndice(const QString& texto);

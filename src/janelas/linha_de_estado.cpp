@@ -66,7 +66,10 @@ LinhaDeEstado::LinhaDeEstado(QWidget& janela) : QLabel{&janela}, janela_{janela}
         tabela->installEventFilter(this);
         tabela->viewport()->installEventFilter(this);
     }
-    connect(qApp, &QApplication::focusChanged, this, &LinhaDeEstado::atualizar);
+    // Not where the focus is lost: it also is while the window and its widgets are being destroyed.
+    connect(qApp, &QApplication::focusChanged, this, [this](const QWidget*, const QWidget* comFoco) {
+        if (comFoco && janela_.isAncestorOf(comFoco)) atualizar();
+    });
 }
 
 void LinhaDeEstado::atualizar() {

@@ -246,6 +246,24 @@ TEST_F(RecusaNoAutopropelido, AoSalvarAVelocidadeEOGiroRecebemOFoco) {
                               "que 0 e até 1000 m!"});
 }
 
+/// What the reader of the file refuses isn't saved; a speed that only a fit refuses is.
+TEST_F(RecusaNoAutopropelido, NãoSeSalvaOQueNãoSeAbriria) {
+    auto& f = *form_MiE1.operator->();
+    const auto recusar = [&](const char* velocidade, const char* giro, const Textos& recusa) {
+        f.Text1.texto = velocidade;
+        f.Combo6.texto = giro;
+        salvar(form_MiE1);
+        EXPECT_EQ(caderno, recusa) << velocidade << ", " << giro;
+    };
+    const Textos velocidade{"mensagem: Ensaio 1: a velocidade do aspersor deve estar entre 0 - 200 m/h!"};
+    const Textos giro{"mensagem: Ensaio 1: o ângulo de giro do aspersor deve estar entre 180 - 360º!"};
+    recusar("0", "360", velocidade);
+    recusar("40", "179", giro);
+    recusar("40", "361", giro);
+    arquivos = {std::nullopt};
+    recusar("250", "180", {"salvar: Text files|*.TXT|All files|*.* TXT"});
+}
+
 TEST_F(RecusaNoAutopropelido, UmEspaçoQueNãoCabeDeixaOsCabeçalhosComoEstavam) {
     auto& f = *form_MiE1.operator->();
     atos::digitar(alvo(form_MiE1, "Combo4"), "1e400");

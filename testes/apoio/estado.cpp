@@ -72,12 +72,7 @@ struct Conteúdo {
         return texto;
     }
     std::string operator()(const Desenho* c) const {
-        Resumo resumo;
-        for (const auto& traço : c->traços) {
-            resumo.somar(std::uint64_t{traço.index()});
-            std::visit([&](const auto& t) { números(t, [&](double x) { resumo.somar(x); }); }, traço);
-        }
-        return std::to_string(c->traços.size()) + " strokes " + std::to_string(resumo.valor());
+        return std::to_string(c->traços.size()) + " strokes " + std::to_string(resumoDosTraços(c->traços));
     }
 };
 
@@ -91,12 +86,6 @@ bool temPalavra(std::string_view texto, std::string_view palavra) {
         const auto fim = i + palavra.size();
         if ((i == 0 || !letra(texto[i - 1])) && (fim == texto.size() || !letra(texto[fim]))) return true;
     }
-    return false;
-}
-
-bool nãoÉNúmero(std::string_view texto) {
-    for (const auto* palavra : {"nan", "inf", "NaN", "Inf", "NAN", "INF"})
-        if (temPalavra(texto, palavra)) return true;
     return false;
 }
 
@@ -139,6 +128,21 @@ std::string primeiroQue(const Recusa& recusa) {
 }
 
 } // namespace
+
+std::uint64_t resumoDosTraços(std::span<const Traço> traços) {
+    Resumo resumo;
+    for (const auto& traço : traços) {
+        resumo.somar(std::uint64_t{traço.index()});
+        std::visit([&](const auto& t) { números(t, [&](double x) { resumo.somar(x); }); }, traço);
+    }
+    return resumo.valor();
+}
+
+bool nãoÉNúmero(std::string_view texto) {
+    for (const auto* palavra : {"nan", "inf", "NaN", "Inf", "NAN", "INF"})
+        if (temPalavra(texto, palavra)) return true;
+    return false;
+}
 
 std::string estadoDasTelas() {
     std::string texto;

@@ -1,6 +1,11 @@
 #pragma once
 
+#include "comum/desenho.h"
+
+#include <cstdint>
+#include <span>
 #include <string>
+#include <string_view>
 
 /// What all screens hold, for tests that look at the whole system at once.
 namespace varenta::teste {
@@ -8,6 +13,12 @@ namespace varenta::teste {
 /// Every loaded screen with its title, flags and all that its controls hold, as text: equal texts are equal
 /// states. A drawing stands there as its strokes' digest.
 std::string estadoDasTelas();
+
+/// A digest of strokes: that of others differs.
+std::uint64_t resumoDosTraços(std::span<const Traço> traços);
+
+/// Whether the text shows a number that is none: a word "nan" or "inf".
+bool nãoÉNúmero(std::string_view texto);
 
 /// The first control that shows a number which is none (a word "nan" or "inf", a stroke with a coordinate
 /// that is not finite), by its full name; empty where there is none. Controls that a person types into are

@@ -59,24 +59,7 @@ const std::map<std::string, void (*)(const Palavras&)> atosPorNome{
     {"fechar", [](const Palavras& p) { atos::fechar(telaDe(p[1])); }},
 };
 
-/// A word as a roteiro writes it.
-std::string escrita(const std::string& palavra) {
-    std::string entre = "\"";
-    for (const char c : palavra) entre.append(c == '"' ? 2 : 1, c);
-    return entre + "\"";
-}
-
 } // namespace
-
-std::string Passo::texto() const {
-    std::string texto;
-    for (const bool resposta : respostas) texto += resposta ? "responder sim\n" : "responder não\n";
-    for (const auto& arquivo : arquivos)
-        texto += "arquivo " + (arquivo ? escrita(*arquivo) : "cancelar") + "\n";
-    for (const auto& palavra : palavras)
-        texto += (&palavra == &palavras.front() ? palavra : " " + escrita(palavra));
-    return texto + "\n";
-}
 
 std::vector<Passo> passosDe(const std::string& roteiro, const std::string& pasta) {
     std::vector<Passo> passos;

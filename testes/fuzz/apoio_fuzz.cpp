@@ -170,18 +170,6 @@ bool mostra(std::string_view célula, double valor, std::size_t casas) {
     return std::abs(*mostrado - valor) <= meio * (1 + 1e-9) + std::abs(valor) * 1e-15;
 }
 
-Linhas linhasDe(std::string_view texto) {
-    Linhas linhas;
-    while (!texto.empty()) {
-        const auto quebra = std::min(texto.find('\n'), texto.size());
-        auto linha = texto.substr(0, quebra);
-        texto.remove_prefix(std::min(quebra + 1, texto.size()));
-        if (linha.ends_with('\r')) linha.remove_suffix(1);
-        linhas.emplace_back(linha);
-    }
-    return linhas;
-}
-
 bool emBranco(const std::string& linha) { return linha.find_first_not_of(" \t") == std::string::npos; }
 
 std::vector<std::string> colunasDe(std::string_view linha) {

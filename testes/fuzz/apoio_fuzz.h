@@ -3,6 +3,8 @@
 #include "comum/controles.h"
 #include "comum/operacoes.h"
 
+#include "fuzz/linhas.h"
+
 #include <array>
 #include <cstddef>
 #include <optional>
@@ -135,9 +137,6 @@ std::optional<double> númeroDe(std::string_view texto);
 /// Whether a cell shows `valor` rounded to so many decimals.
 bool mostra(std::string_view célula, double valor, std::size_t casas);
 
-using Linhas = std::vector<std::string>;
-/// The lines of a text. LF and CR LF both end one; the last may lack its end.
-Linhas linhasDe(std::string_view texto);
 bool emBranco(const std::string& linha);
 std::vector<std::string> colunasDe(std::string_view linha);
 

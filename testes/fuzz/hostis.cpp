@@ -1,6 +1,6 @@
 #include "fuzz/hostis.h"
 
-#include "fuzz/apoio_fuzz.h"
+#include "fuzz/linhas.h"
 
 #include <algorithm>
 #include <random>

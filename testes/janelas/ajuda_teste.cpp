@@ -5,6 +5,7 @@
 #include "janelas/dialogos.h"
 #include "janelas/janela_ajuda.h"
 
+#include <QAction>
 #include <QFile>
 #include <QLineEdit>
 #include <QListWidget>
@@ -120,6 +121,23 @@ TEST(Ajuda, AJanelaMostraOTópicoABuscaEOÍndice) {
     }
     EXPECT_GT(visíveis, 0);
     EXPECT_LT(visíveis, índice->count());
+}
+
+TEST(Ajuda, ALetraMudaEnquantoSeLê) {
+    JanelaDaAjuda janela;
+    janela.mostrarTópico(std::nullopt);
+    const auto& página = *janela.findChild<QTextBrowser*>(QStringLiteral("pagina"));
+    const int tamanho = página.font().pointSize();
+    const auto mudar = [&](const char* comando, int vezes) {
+        for (auto* ação : janela.findChildren<QAction*>())
+            if (ação->text() == QLatin1String{comando})
+                for (int k = 0; k < vezes; ++k) ação->trigger();
+        return página.font().pointSize();
+    };
+    EXPECT_EQ(mudar("Letra maior", 1), tamanho + 1);
+    EXPECT_EQ(mudar("Letra menor", 2), tamanho - 1);
+    EXPECT_EQ(mudar("Letra menor", 100), 5);
+    EXPECT_EQ(mudar("Letra maior", 100), 40);
 }
 
 } // namespace

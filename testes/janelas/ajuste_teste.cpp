@@ -13,6 +13,7 @@
 #include "janelas/widget_desenho.h"
 #include "janelas/widget_tabela.h"
 
+#include <QCloseEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QProgressBar>
@@ -359,6 +360,34 @@ TEST_F(JanelasDoAjuste, enquanto_ajustam_nada_mais_começa_nem_espera_sua_vez) {
     // What is done afterwards counts again.
     clicar(form_AjVen, "Option7");
     EXPECT_TRUE(form_AjVen->Option7.marcada);
+}
+
+TEST_F(JanelasDoAjuste, enquanto_ajustam_nenhuma_janela_se_fecha) {
+    abrirMalha();
+    // Before the search begins one waits in the queue.
+    dialogos().mensagem = [this](const QString& texto) {
+        if (caixas.empty()) QCoreApplication::postEvent(&janela(form_AjVen), new QCloseEvent);
+        caixas.push_back(texto);
+    };
+    int tentativas = 0;
+    duranteOAjuste(
+        [&] {
+            ++tentativas;
+            for (auto* tela : {static_cast<TelaBase*>(&form_AjCar), static_cast<TelaBase*>(&form_AjVen),
+                               static_cast<TelaBase*>(&form_E1)}) {
+                EXPECT_FALSE(janela(*tela).close());
+                QTest::keyClick(&janela(*tela), Qt::Key_Escape);
+                EXPECT_TRUE(tela->visivel) << tela->nome();
+            }
+        },
+        [&] { clicar(form_AjVen, "Command5"); });
+    EXPECT_GT(tentativas, 100);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(caixas.size(), 2u) << "the factor and the deviation of one fit";
+    EXPECT_TRUE(form_AjVen.visivel);
+    EXPECT_TRUE(form_E1.visivel);
+    janela(form_AjVen).close();
+    EXPECT_FALSE(form_AjVen.carregada());
 }
 
 TEST_F(JanelasDoAjuste, um_ajuste_que_não_pode_continuar_deixa_as_janelas_usáveis) {

@@ -2,9 +2,11 @@
 
 #include "comum/atos.h"
 
+#include <QAbstractItemView>
 #include <QComboBox>
 #include <QLineEdit>
 #include <QMenu>
+#include <QPointer>
 #include <QScrollBar>
 #include <QTimer>
 
@@ -200,6 +202,20 @@ TEST_F(CaixaDeFechar, de_uma_janela_desabilitada_não_faz_nada) {
     janelas->atualizar();
     janela(form3).close();
     EXPECT_TRUE(form3.carregada());
+    EXPECT_TRUE(janela(form3).isVisible());
+}
+
+/// The list has the focus then, and loses it in the midst of the window's end.
+TEST_F(Percurso, uma_janela_pode_fechar_se_com_os_itens_de_uma_lista_à_vista) {
+    abrirForm7();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&janela(form7)));
+    const QPointer<QWidget> antiga{&janela(form7)};
+    auto& lista = widget<QComboBox>(form7, "Combo2");
+    lista.showPopup();
+    ASSERT_EQ(QApplication::focusWidget(), lista.view());
+    antiga->close();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_TRUE(antiga.isNull());
     EXPECT_TRUE(janela(form3).isVisible());
 }
 
