@@ -25,6 +25,12 @@ class ExameDasJanelas {
     /// none. The window of the help may stand beside those of the screens.
     std::string sobra() const;
 
+    /// Once all windows are gone: nothing is kept of them.
+    void esquecer() {
+        vistas_.clear();
+        comparadas_.clear();
+    }
+
   private:
     /// A window with its widgets and menu actions, in the order of the screen's controls; none for those of
     /// control arrays.

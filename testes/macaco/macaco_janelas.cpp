@@ -260,11 +260,12 @@ class Macaco : public QObject, private LeituraDeVolta {
         if (!QApplication::topLevelWidgets().isEmpty()) acusar("windows left over at the end");
         QGuiApplication::clipboard()->clear();
         QPixmapCache::clear();
+        escriba_.recomeçar();
+        exame_.esquecer();
         const auto uso = ::mallinfo2();
         memórias_.push_back(static_cast<double>(uso.uordblks + uso.hblkhd));
         iniciarSistema();
         janelas_.atualizar();
-        escriba_.recomeçar();
         pinta_ = acaso_.umEm(4);
         gestos_ = 0;
         maisGestos_ = acaso_.entre(100, 3000);
