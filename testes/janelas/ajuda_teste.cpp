@@ -152,6 +152,9 @@ TEST(Ajuda, TodaMensagemDoProgramaEstáEntreAsMensagens) {
     for (const auto& literal : literaisDoPrograma()) {
         if (!éMensagem(literal) || literal.texto == legenda) continue;
         ++quantas;
+        // Of what went wrong inside a message the page tells the message.
+        const auto começo = literal.texto.section(QLatin1String{": "}, 0, 0) + QStringLiteral(": …!");
+        if (página.contains(começo)) continue;
         // Where values come in, the page has "…".
         for (const auto& parte : literal.texto.split(QStringLiteral("%1")))
             EXPECT_TRUE(página.contains(parte.simplified())) << literal.texto.toStdString();
@@ -166,7 +169,8 @@ TEST(Ajuda, AsMensagensDaAjudaSãoDoPrograma) {
     static const QRegularExpression linha{QStringLiteral("<tr><td width=\"60%\">(.*?)</td>")};
     // Values, and where a message is put together.
     static const QRegularExpression valores{
-        QStringLiteral("…|: | [dn]o Ensaio|\\b[0-9]+\\b|\\bA\\b|\\bdeve ser\\b|\\bpontos\\b")};
+        QStringLiteral("…|: | [dn]o Ensaio|\\b[0-9]+\\b|\\bA\\b|\\bdeve ser\\b|\\bpontos\\b|;|, | por$|serão "
+                       "multiplicados por")};
     int quantas = 0;
     for (auto achadas = linha.globalMatch(ler(QStringLiteral("mensagens.html"))); achadas.hasNext();) {
         QTextDocument documento;
@@ -221,7 +225,8 @@ TEST(Ajuda, AltECtrlFLevamÀCaixaEEnterAbreOPrimeiroAchado) {
     busca->clear();
     QTest::keyClicks(busca, QStringLiteral("lamina requerida"));
     QTest::keyClick(busca, Qt::Key_Return);
-    const auto achadas = buscarNaAjuda(lerPáginasDaAjuda(), QStringLiteral("lamina requerida"));
+    const auto páginas = lerPáginasDaAjuda();
+    const auto achadas = buscarNaAjuda(páginas, QStringLiteral("lamina requerida"));
     EXPECT_EQ(janela.páginaAtual(), achadas.front()->arquivo);
 
     QTest::keyClick(&janela, Qt::Key_N, Qt::AltModifier);

@@ -661,7 +661,8 @@ TEST_F(DadosDaFigura, da_sobreposição_medida_têm_o_espaçamento_dos_coletores
     for (const auto* nome : {"FormUnifo.Picture1", "FormUnifo.Picture2"})
         EXPECT_TRUE(dadosDe(nome).contains("Espaçamento entre Coletores: 2.0 m")) << nome;
     EXPECT_TRUE(dadosDe("FormUnifo.Picture2")
-                    .contains("Espaçamento de Maior CUC: " + QString::fromStdString(formUnifo->lblE.texto)));
+                    .contains("Espaçamento de Maior CUC: " +
+                              QString::fromStdString(formUnifo->lblE.texto).simplified()));
 }
 
 TEST_F(DadosDaFigura, da_faixa_são_os_de_quando_foi_desenhada) {
@@ -675,7 +676,8 @@ TEST_F(DadosDaFigura, da_faixa_são_os_de_quando_foi_desenhada) {
     };
     conferir();
     EXPECT_TRUE(dadosDe("Form5.Picture2").contains("Cc = 150 m"));
-    percorrer("digitar Form5.txtMan 200\n");
+    form5->txtMan.texto = "200";
+    form5->txtMan.aoMudar();
     EXPECT_FALSE(dadosDe("Form5.Picture2").contains("Cc = 150 m"));
     conferir();
 }
