@@ -9,6 +9,7 @@
 #include <QLabel>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QTimer>
 
 #include <algorithm>
 
@@ -146,7 +147,8 @@ void WidgetDesenho::mouseMoveEvent(QMouseEvent* evento) {
 void WidgetDesenho::leaveEvent(QEvent*) { emit mouseSaiu(); }
 
 void WidgetDesenho::focusOutEvent(QFocusEvent* evento) {
-    if (pontoLido_) emit mouseSaiu();
+    // Later: an act in the middle of a change of focus would bring the keyboard back here.
+    if (pontoLido_) QTimer::singleShot(0, this, &WidgetDesenho::mouseSaiu);
     esquecerPontoLido();
     QWidget::focusOutEvent(evento);
 }

@@ -426,9 +426,11 @@ TEST_F(MãosEOlhos, as_setas_movem_o_ponto_lido_de_um_gráfico) {
     const auto naBorda = lido();
     EXPECT_EQ(naBorda, sobOPonteiro({quadro.x(), quadro.center().y()}));
     QTest::keyClick(&gráfico, Qt::Key_Down);
+    ASSERT_TRUE(gráfico.hasFocus());
     auto& comprimento = widget<QLineEdit>(form5, "txtMan");
     comprimento.setFocus(Qt::TabFocusReason);
-    EXPECT_EQ(lido(), comprimento.toolTip());
+    EXPECT_TRUE(QTest::qWaitFor([&] { return lido() == comprimento.toolTip(); })) << lido().toStdString();
+    EXPECT_TRUE(comprimento.hasFocus());
 }
 
 TEST_F(MãosEOlhos, a_linha_de_estado_lê_o_gráfico_sob_o_ponteiro) {
