@@ -81,6 +81,10 @@ void escreverVento(ControlesDeGraf& graf, const ControlesDeEnsaio& ensaio) {
     graf.Label12.texto = "Direção do Vento: " + ensaio.Label2.texto;
 }
 
+std::string espaçamentoDosColetores(const Lista& espaçamento) {
+    return "Espaçamento entre Coletores: " + espaçamento.texto + " m";
+}
+
 /// Leaves the set of buttons for a sprinkler.
 void deixarBotões(ControlesDeGraf& graf, Aspersor aspersor) {
     const bool doCatálogo = aspersor == Aspersor::doCatálogo;
@@ -136,7 +140,10 @@ void preencherGraf(Aspersor aspersor, int n) {
     f.Label17.texto = textoDoDesvio(n, ensaio.observados, estimados, " mm/h");
     f.Label13.texto = comTrêsCasas("Maior Precipitação: ", maiorObservado, " mm/h");
     f.Label15.texto = comTrêsCasas("Maior Precipitação: ", maiorEstimado, " mm/h");
-    escreverVento(f, *form_E(n).operator->());
+    const auto& tela = *form_E(n).operator->();
+    escreverVento(f, tela);
+    f.ensaioComparado = {espaçamentoDosColetores(tela.Combo1),
+                         "Coletores: " + std::to_string(ensaio.N) + " x " + std::to_string(ensaio.N)};
 
     const EscalaDeCores escala{std::max(maiorObservado, maiorEstimado)};
     f.Label14.texto = Format(escala.topo(), "0.0") + " mm/h";
@@ -157,7 +164,11 @@ void preencherMIgraf(Aspersor aspersor, int n) {
     f.Label13.texto = comTrêsCasas("Maior Precipitação: ", maiorIntensidade, " mm/h");
     f.Label20.texto = comTrêsCasas("Maior Lâmina Estimada: ", maiorLâmina, " mm");
     f.Label15.texto = comTrêsCasas("Maior Lâmina Observada: ", maiorObservada, " mm");
-    escreverVento(f, *form_MiE(n).operator->());
+    const auto& tela = *form_MiE(n).operator->();
+    escreverVento(f, tela);
+    f.ensaioComparado = {
+        espaçamentoDosColetores(tela.Combo4), "Coletores de Cada Lado: " + std::to_string(ensaio.N / 2),
+        "Velocidade: " + tela.Text1.texto + " m/h", "Ângulo de Giro: " + tela.Combo6.texto + "º"};
 
     const EscalaDeCores escala{maiorIntensidade};
     f.Label14.texto = Format(escala.topo(), "0.0") + " mm/h";

@@ -3,6 +3,8 @@
 #include "comum/tela.h"
 
 #include <array>
+#include <string>
+#include <vector>
 
 namespace varenta {
 
@@ -16,6 +18,8 @@ struct ControlesDeGraf {
     Rotulo Label11, Label12; // wind, speed and bearing
     Rotulo Label14;          // top of the colour scale
     Desenho Picture1, Picture2;
+    /// What was compared, as the test's screen had it then, for the figures.
+    std::vector<std::string> ensaioComparado;
     /// Coordinates beside the map of `Picture2`, m: along its bottom from left to right, along its left side
     /// from bottom to top.
     std::array<Rotulo, 7> Label5, Label6;

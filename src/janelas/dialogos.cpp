@@ -18,9 +18,11 @@ namespace varenta {
 namespace {
 
 QMessageBox::StandardButton mostrarCaixa(QMessageBox::Icon ícone, const QString& texto,
-                                         QMessageBox::StandardButtons botões) {
+                                         QMessageBox::StandardButtons botões,
+                                         QMessageBox::StandardButton padrão = QMessageBox::NoButton) {
     QMessageBox caixa{ícone, QStringLiteral("Varenta"), texto, botões, QApplication::activeWindow()};
     caixa.setTextFormat(Qt::PlainText);
+    caixa.setDefaultButton(padrão);
     if (auto* sim = caixa.button(QMessageBox::Yes)) sim->setText(QStringLiteral("&Sim"));
     if (auto* não = caixa.button(QMessageBox::No)) não->setText(QStringLiteral("&Não"));
     return static_cast<QMessageBox::StandardButton>(caixa.exec());
@@ -101,6 +103,11 @@ Dialogos dialogosDoQt() {
             [](const QString& texto) {
                 return mostrarCaixa(QMessageBox::Question, texto, QMessageBox::Yes | QMessageBox::No) ==
                        QMessageBox::Yes;
+            },
+        .confirmar =
+            [](const QString& texto) {
+                return mostrarCaixa(QMessageBox::Question, texto, QMessageBox::Yes | QMessageBox::No,
+                                    QMessageBox::No) == QMessageBox::Yes;
             },
         .erroDeExecucao =
             [](const QString& texto) { mostrarCaixa(QMessageBox::Critical, texto, QMessageBox::Ok); },

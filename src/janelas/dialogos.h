@@ -19,6 +19,8 @@ struct Dialogos {
     std::function<void(const QString& texto)> mensagem;
     /// True for Yes.
     std::function<bool(const QString& texto)> perguntar;
+    /// The same for what may do harm: No is the answer at hand.
+    std::function<bool(const QString& texto)> confirmar = {};
     std::function<void(const QString& texto)> erroDeExecucao;
     /// The path chosen; nothing where the dialog was cancelled. Filters as Qt writes them.
     std::function<std::optional<QString>(const QString& filtros)> arquivoParaAbrir;

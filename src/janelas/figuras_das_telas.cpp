@@ -1,7 +1,11 @@
 #include "janelas/figuras_das_telas.h"
 
+#include "ajuste/form_graf.h"
+#include "ajuste/form_migraf.h"
 #include "comum/tela.h"
 #include "janelas/widget_desenho.h"
+#include "uniformidade/form9.h"
+#include "uniformidade/form_graffinal.h"
 
 #include <QLabel>
 
@@ -34,7 +38,7 @@ struct ModeloDeFigura {
     /// The top of a colour scale that is no drawing of the core.
     const char* topoDasCores = nullptr;
     /// What no caption by itself tells.
-    QString (*dadoPróprio)(TelaBase& tela) = nullptr;
+    QStringList (*dadosPróprios)(TelaBase& tela) = nullptr;
     /// Curves that the layout names beside the drawing, as `WidgetDesenho` has them.
     Textos legenda = {};
 };
@@ -92,8 +96,10 @@ const Textos dadosDeGraf =
 const Textos dadosDeMIgraf =
     Textos{"{Form_MiE*.Label20}", "{Form_MiE*.Label19}", "{Form_MiE*.Label18}"} + desviosDoEnsaio;
 
-const Textos dadosDeFormUnifo = {"{lblAspersor}", "{Label2}", "{Label1}",  "{Label8}",
-                                 "{Label4}",      "{Label3}", "{Label37}", "{Label38}"};
+const Textos dadosDeFormUnifo = {
+    "{lblAspersor}", "{Label2}",  "{Label1}",
+    "{Label8}",      "{Label4}",  "{Label3}",
+    "{Label37}",     "{Label38}", "Espaçamento entre Coletores: {Form_EC.Combo4} m"};
 
 QString qtexto(std::string_view texto) {
     return QString::fromUtf8(texto.data(), static_cast<qsizetype>(texto.size()));
@@ -135,12 +141,35 @@ std::string textoDaTela(TelaBase& tela, std::string_view nome) {
 
 /// The title tells the spacing once the button has overlapped one; before that it is the best one of the
 /// list.
-QString espaçamentoSobreposto(TelaBase& tela) {
+QStringList espaçamentoSobreposto(TelaBase& tela) {
     const auto título = qtexto(tela.caption());
-    return título.startsWith(QStringLiteral("Sobreposição para o Espaçamento: "))
-               ? título
-               : QStringLiteral("Espaçamento: ") + qtexto(textoDaTela(tela, "lblE")).simplified();
+    const auto texto = título.startsWith(QStringLiteral("Sobreposição para o Espaçamento: "))
+                           ? título
+                           : QStringLiteral("Espaçamento: ") + qtexto(textoDaTela(tela, "lblE")).simplified();
+    return {texto};
 }
+
+QStringList qtextos(const std::vector<std::string>& textos) {
+    QStringList prontos;
+    for (const auto& texto : textos) prontos << qtexto(texto);
+    return prontos;
+}
+
+/// "3" of "Form_graf3"; empty for a screen without a number.
+QString númeroDa(const TelaBase& tela) {
+    const auto nome = qtexto(tela.nome());
+    return nome.back().isDigit() ? QString{nome.back()} : QString{};
+}
+
+// What was drawn may have been changed on its screen since.
+QStringList malhaComparada(TelaBase& tela) {
+    return qtextos(form_graf(númeroDa(tela).toInt())->ensaioComparado);
+}
+QStringList móvelComparado(TelaBase& tela) {
+    return qtextos(form_MIgraf(númeroDa(tela).toInt())->ensaioComparado);
+}
+QStringList faixaAnalisada(TelaBase&) { return qtextos(form9->faixaAnalisada); }
+QStringList faixaDesenhada(TelaBase&) { return qtextos(form_grafFinal->faixaDesenhada); }
 
 const ModeloDeFigura modelos[] = {
     {.tela = "form1",
@@ -218,57 +247,61 @@ const ModeloDeFigura modelos[] = {
                                     "{lblAviso}"},
      .entradas = extremosDeForm5,
      .botõesDoResultado = {"Command12", "Command11"}},
-    {.tela = "Form9", .desenho = "Picture1", .título = "Área adequadamente irrigada", .dados = dadosDeForm9},
+    {.tela = "Form9",
+     .desenho = "Picture1",
+     .título = "Área adequadamente irrigada",
+     .dados = dadosDeForm9,
+     .dadosPróprios = faixaAnalisada},
     {.tela = "Form9",
      .desenho = "Picture2",
      .título = "Eficiências de aplicação e de armazenamento",
-     .dados = dadosDeForm9},
+     .dados = dadosDeForm9,
+     .dadosPróprios = faixaAnalisada},
     {.tela = "Form_grafFinal",
      .desenho = "Picture1",
      .título = "Lâminas sobre a faixa irrigada",
      .dados = dadosDeForm5 + Textos{"{Label16}", "{Label2}", "{Label17}", "{Label15}",
                                     "Lâmina média: {Label7}", "{lblAviso}"},
-     .cores = "Picture2"},
+     .cores = "Picture2",
+     .dadosPróprios = faixaDesenhada},
     {.tela = "Form_E*", .desenho = "Picture2", .título = "Vento no ensaio *", .dados = dadosDoEnsaio},
     {.tela = "Form_MiE*", .desenho = "Picture2", .título = "Vento no ensaio *", .dados = dadosDoEnsaio},
     {.tela = "Form_graf*",
      .desenho = "Picture1",
      .título = "Precipitações observadas no ensaio *",
      .dados = dadosDeGraf + Textos{"{Label13}"},
-     .topoDasCores = "{Label14}"},
+     .topoDasCores = "{Label14}",
+     .dadosPróprios = malhaComparada},
     {.tela = "Form_graf*",
      .desenho = "Picture2",
      .título = "Precipitações estimadas no ensaio *",
      .dados = dadosDeGraf + Textos{"{Label15}"},
-     .topoDasCores = "{Label14}"},
+     .topoDasCores = "{Label14}",
+     .dadosPróprios = malhaComparada},
     {.tela = "Form_MIgraf*",
      .desenho = "Picture1",
      .título = "Lâminas observadas e estimadas no ensaio *",
      .dados = dadosDeMIgraf + Textos{"{Label15}", "{Label20}"},
+     .dadosPróprios = móvelComparado,
      .legenda = {"{Label18}=#0000ff", "{Label19}=#ff0000:pontos"}},
     {.tela = "Form_MIgraf*",
      .desenho = "Picture2",
      .título = "Precipitações estimadas no ensaio *",
      .dados = dadosDeMIgraf + Textos{"{Label13}"},
-     .topoDasCores = "{Label14}"},
+     .topoDasCores = "{Label14}",
+     .dadosPróprios = móvelComparado},
     {.tela = "FormUnifo",
      .desenho = "Picture2",
      .título = "Uniformidade e espaçamento entre carreadores",
-     .dados = dadosDeFormUnifo + Textos{"Maior CUC: {lblE}"}},
+     .dados = dadosDeFormUnifo + Textos{"Espaçamento de Maior CUC: {lblE}"}},
     {.tela = "FormUnifo",
      .desenho = "Picture1",
      .título = "Sobreposição das lâminas entre dois carreadores",
      .dados =
          dadosDeFormUnifo + Textos{"CUC: {Label16} %", "UD: {Label33} %", "I médio coletado: {Label17} mm",
                                    "I médio calculado: {lblCalculado} mm"},
-     .dadoPróprio = espaçamentoSobreposto},
+     .dadosPróprios = espaçamentoSobreposto},
 };
-
-/// "3" of "Form_graf3"; empty for a screen without a number.
-QString númeroDa(const TelaBase& tela) {
-    const auto nome = qtexto(tela.nome());
-    return nome.back().isDigit() ? QString{nome.back()} : QString{};
-}
 
 const ModeloDeFigura* modeloDe(const WidgetDesenho& desenho, const TelaBase& tela) {
     const auto nome = desenho.objectName();
@@ -384,7 +417,7 @@ Figura figuraDaTela(const WidgetDesenho& desenho, TelaBase& tela) {
 
     const bool vazio = figura.desenho.conteúdo.traços.empty();
     figura.dados = preenchimento.textos(modelo->dados);
-    if (modelo->dadoPróprio && !vazio) figura.dados << modelo->dadoPróprio(tela);
+    if (modelo->dadosPróprios && !vazio) figura.dados += modelo->dadosPróprios(tela);
     if (vazio || algumHabilitado(tela, modelo->botõesDoResultado))
         figura.dados += preenchimento.textos(modelo->entradas);
     else if (!modelo->entradas.empty())

@@ -1,8 +1,10 @@
 #include "janelas/janela_ajuda.h"
 
 #include "comum/erro_execucao.h"
+#include "janelas/janelas.h"
 #include "janelas/paletas.h"
 
+#include <QApplication>
 #include <QBoxLayout>
 #include <QCoreApplication>
 #include <QFile>
@@ -13,8 +15,11 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPointer>
+#include <QScreen>
 #include <QShortcut>
+#include <QShortcutEvent>
 #include <QSplitter>
+#include <QTabBar>
 #include <QTabWidget>
 #include <QTextBrowser>
 #include <QTextDocument>
@@ -72,8 +77,20 @@ QListWidgetItem* acrescentar(QListWidget& lista, const QString& texto, const QSt
     return item;
 }
 
-QWidget* empilhar(QWidget* acima, QWidget* abaixo) {
+/// A box above the list that it narrows down: the keyboard comes to the box, and Enter there opens the first
+/// item that is left.
+QWidget* empilhar(QLineEdit* acima, QListWidget* abaixo) {
     auto* painel = new QWidget;
+    painel->setFocusProxy(acima);
+    QObject::connect(acima, &QLineEdit::returnPressed, abaixo, [abaixo] {
+        for (int k = 0; k < abaixo->count(); ++k) {
+            auto* item = abaixo->item(k);
+            if (item->isHidden() || !(item->flags() & Qt::ItemIsEnabled)) continue;
+            abaixo->setCurrentItem(item);
+            emit abaixo->itemActivated(item);
+            return;
+        }
+    });
     auto* pilha = new QVBoxLayout{painel};
     pilha->addWidget(acima);
     pilha->addWidget(abaixo);
@@ -124,7 +141,8 @@ std::vector<const PaginaDaAjuda*> buscarNaAjuda(const std::vector<PaginaDaAjuda>
     return ordenadas;
 }
 
-JanelaDaAjuda::JanelaDaAjuda() : páginas_{lerPáginasDaAjuda()}, página_{new QTextBrowser} {
+JanelaDaAjuda::JanelaDaAjuda()
+    : páginas_{lerPáginasDaAjuda()}, página_{new QTextBrowser}, abas_{new QTabWidget} {
     setWindowTitle(QStringLiteral("Ajuda do Varenta"));
     página_->setObjectName(QStringLiteral("pagina"));
     página_->setAccessibleName(QStringLiteral("Página da ajuda"));
@@ -135,13 +153,16 @@ JanelaDaAjuda::JanelaDaAjuda() : páginas_{lerPáginasDaAjuda()}, página_{new Q
     connect(página_, &QTextBrowser::sourceChanged, this,
             [this](const QUrl& url) { marcarNoConteúdo(url.fileName()); });
 
-    auto* abas = new QTabWidget;
-    abas->setObjectName(QStringLiteral("abas"));
-    abas->addTab(criarConteúdo(), QStringLiteral("&Conteúdo"));
-    abas->addTab(criarÍndice(), QStringLiteral("Í&ndice"));
-    abas->addTab(criarBusca(), QStringLiteral("&Busca"));
+    abas_->setObjectName(QStringLiteral("abas"));
+    abas_->addTab(criarConteúdo(), QStringLiteral("&Conteúdo"));
+    abas_->addTab(criarÍndice(), QStringLiteral("Í&ndice"));
+    const int busca = abas_->addTab(criarBusca(), QStringLiteral("&Busca"));
+    abas_->tabBar()->installEventFilter(this);
+    connect(abas_, &QTabWidget::tabBarClicked, this, &JanelaDaAjuda::abrirAba);
+    connect(new QShortcut{QKeySequence::Find, this}, &QShortcut::activated, this,
+            [this, busca] { abrirAba(busca); });
     auto* divisão = new QSplitter;
-    divisão->addWidget(abas);
+    divisão->addWidget(abas_);
     divisão->addWidget(página_);
     divisão->setStretchFactor(1, 1);
     divisão->setSizes({300, 700});
@@ -159,6 +180,13 @@ void JanelaDaAjuda::mostrarTópico(std::optional<int> tópico) {
     if (página == páginas_.end())
         throw varenta::ErroExecucao{"A ajuda não tem o tópico " + std::to_string(*tópico) + "!"};
     abrir(página->arquivo);
+    // Where it was left it opens again.
+    if (!testAttribute(Qt::WA_Moved)) {
+        const auto* ativa = QApplication::activeWindow();
+        move(lugarNaTela(size(), ativa ? ativa->frameGeometry().center()
+                                       : QGuiApplication::primaryScreen()->availableGeometry().center())
+                 .topLeft());
+    }
     show();
     raise();
     activateWindow();
@@ -240,6 +268,21 @@ QWidget* JanelaDaAjuda::criarBarra() {
 void JanelaDaAjuda::mudarLetra(int pontos) {
     const int tamanho = página_->font().pointSize() + pontos;
     if (tamanho >= menorLetra && tamanho <= maiorLetra) página_->zoomIn(pontos);
+}
+
+void JanelaDaAjuda::abrirAba(int aba) {
+    if (aba < 0) return;
+    abas_->setCurrentIndex(aba);
+    abas_->currentWidget()->setFocus(Qt::ShortcutFocusReason);
+}
+
+/// The tabs' own answer to their mnemonics leaves the keyboard where it was.
+bool JanelaDaAjuda::eventFilter(QObject* objeto, QEvent* evento) {
+    if (evento->type() != QEvent::Shortcut) return QWidget::eventFilter(objeto, evento);
+    const auto& tecla = static_cast<QShortcutEvent*>(evento)->key();
+    for (int aba = 0; aba < abas_->count(); ++aba)
+        if (QKeySequence::mnemonic(abas_->tabText(aba)) == tecla) abrirAba(aba);
+    return true;
 }
 
 void JanelaDaAjuda::abrir(const QString& arquivo) { página_->setSource(QUrl{arquivo}); }

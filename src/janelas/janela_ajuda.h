@@ -10,6 +10,7 @@
 
 class QLineEdit;
 class QListWidget;
+class QTabWidget;
 class QTextBrowser;
 class QTreeWidget;
 
@@ -55,6 +56,9 @@ class JanelaDaAjuda : public QWidget {
     QWidget* criarBusca();
     QWidget* criarBarra();
     void mudarLetra(int pontos);
+    /// Brings a tab to the front, and the keyboard to its box or its contents.
+    void abrirAba(int aba);
+    bool eventFilter(QObject* objeto, QEvent* evento) override;
     void abrir(const QString& arquivo);
     void marcarNoConteúdo(const QString& arquivo);
     void filtrarÍndice(const QString& texto);
@@ -62,6 +66,7 @@ class JanelaDaAjuda : public QWidget {
 
     std::vector<PaginaDaAjuda> páginas_;
     QTextBrowser* página_;
+    QTabWidget* abas_;
     QTreeWidget* conteúdo_ = nullptr;
     QListWidget* índice_ = nullptr;
     QListWidget* achados_ = nullptr;

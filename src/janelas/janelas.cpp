@@ -33,6 +33,18 @@ constexpr int tempoDeUmaEsperaMs = 300;
 
 } // namespace
 
+QRect lugarNaTela(QSize tamanho, QPoint meio) {
+    const auto* tela = QGuiApplication::screenAt(meio);
+    const QRect disponível = (tela ? tela : QGuiApplication::primaryScreen())->availableGeometry();
+    QRect lugar{{}, tamanho};
+    lugar.moveCenter(meio);
+    lugar.moveRight(std::min(lugar.right(), disponível.right()));
+    lugar.moveBottom(std::min(lugar.bottom(), disponível.bottom()));
+    lugar.moveLeft(std::max(lugar.left(), disponível.left()));
+    lugar.moveTop(std::max(lugar.top(), disponível.top()));
+    return lugar;
+}
+
 Janelas::Janelas(std::span<const ModeloDeJanela> modelos) : modelos_{modelos} {
     varenta::antesDeCadaDialogo = [this] { atualizar(); };
 }
@@ -127,15 +139,8 @@ void Janelas::esquecerLugar(const QWidget& janela) {
 /// that it had, if it was seen before.
 void Janelas::colocar(QWidget& janela) {
     const auto meio = meioDaÚltima();
-    const auto* tela = QGuiApplication::screenAt(meio);
-    const QRect disponível = (tela ? tela : QGuiApplication::primaryScreen())->availableGeometry();
     if (!janela.testAttribute(Qt::WA_Resized)) janela.resize(janela.sizeHint());
-    QRect lugar{{}, janela.size()};
-    lugar.moveCenter(meio);
-    lugar.moveRight(std::min(lugar.right(), disponível.right()));
-    lugar.moveBottom(std::min(lugar.bottom(), disponível.bottom()));
-    lugar.moveLeft(std::max(lugar.left(), disponível.left()));
-    lugar.moveTop(std::max(lugar.top(), disponível.top()));
+    const QRect lugar = lugarNaTela(janela.size(), meio);
     janela.move(lugar.topLeft());
     última_ = &janela;
     lugares_[última_] = {lugar.center(), meio};

@@ -3,6 +3,7 @@
 #include "janelas/telas.h"
 
 #include <QObject>
+#include <QRect>
 
 #include <functional>
 #include <map>
@@ -10,6 +11,9 @@
 #include <span>
 
 class Vinculo;
+
+/// Where a window of that size stands with its middle there, moved as far as it must be to lie on the screen.
+QRect lugarNaTela(QSize tamanho, QPoint meio);
 
 /// The windows of the screens. A window exists as long as its screen is loaded, and shows while the screen is
 /// visible. What a person does in any of them goes through `agir`, after which all of them show how their

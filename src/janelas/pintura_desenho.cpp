@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <cmath>
 #include <functional>
+#include <limits>
 #include <numbers>
 #include <optional>
 #include <utility>
@@ -27,6 +28,8 @@ constexpr int traçoDaEscala = 4;
 constexpr int folga = 4;
 constexpr int amostraDaLegenda = 26;
 constexpr int entreCurvas = 18;
+// The most that a curve may rise above a chart's axes, in heights of these.
+constexpr double maisAcimaDosEixos = 0.25;
 
 QColor qcor(varenta::Cor cor) {
     return QColor::fromRgb(static_cast<int>(cor & 0xff), static_cast<int>(cor >> 8 & 0xff),
@@ -251,6 +254,17 @@ void pintarAmostra(QPainter& pintor, const Curva& curva, const QColor& cor, QPoi
     }
 }
 
+/// The smallest y that strokes of a chart have: its lines and points, since what else there is ends at the
+/// axes.
+double maisAlto(std::span<const varenta::Traço> traços) {
+    double y = std::numeric_limits<double>::infinity();
+    for (const auto& traço : traços) {
+        if (const auto* linha = std::get_if<varenta::Linha>(&traço)) y = std::min({y, linha->y1, linha->y2});
+        if (const auto* arco = std::get_if<varenta::Arco>(&traço)) y = std::min(y, arco->cy);
+    }
+    return y;
+}
+
 int maisLargo(const QFontMetrics& medidas, const QStringList& textos, const QString& usual) {
     int maior = medidas.horizontalAdvance(usual);
     for (const auto& texto : textos) maior = std::max(maior, medidas.horizontalAdvance(texto));
@@ -267,8 +281,28 @@ QMargins PinturaDoDesenho::margens() const {
     const int números = maisLargo(medidas_, conteúdo_.escalaY, QStringLiteral("00.0"));
     const int metade = (maisLargo(medidas_, conteúdo_.escalaX, QStringLiteral("-00.0")) + 1) / 2;
     return {medidas_.height() + números + traçoDaEscala + 3 * folga,
-            medidas_.height() / 2 + folga + (conteúdo_.legenda.isEmpty() ? 0 : medidas_.height() + folga),
-            metade + folga, 2 * medidas_.height() + traçoDaEscala + 3 * folga};
+            folgaDoTopo() + (conteúdo_.legenda.isEmpty() ? 0 : medidas_.height() + folga), metade + folga,
+            2 * medidas_.height() + traçoDaEscala + 3 * folga};
+}
+
+int PinturaDoDesenho::folgaDoTopo() const { return medidas_.height() / 2 + folga; }
+
+int PinturaDoDesenho::subidaDaCurva(int altura) const {
+    if (conteúdo_.proporcional) return 0;
+    const auto& eixos = conteúdo_.eixos;
+    const double acima =
+        std::min(eixos.top() - maisAlto(conteúdo_.traços), maisAcimaDosEixos * eixos.height());
+    if (acima <= 0) return 0;
+    // The axes and what rises above them share the height and the room that is there anyway.
+    const double sala = altura + folgaDoTopo() - folga / 2.0;
+    return std::max(0, altura - static_cast<int>(sala * eixos.height() / (eixos.height() + acima)));
+}
+
+QRect PinturaDoDesenho::lugarDosTraços() const {
+    const QRect quadro = quadroDosEixos();
+    if (conteúdo_.proporcional) return quadro;
+    const int topo = QRect{{}, tamanho_.toSize()}.marginsRemoved(margens()).top() - folgaDoTopo();
+    return {QPoint{quadro.left(), topo}, QPoint{quadro.right() + margens().right(), quadro.bottom()}};
 }
 
 int PinturaDoDesenho::larguraDaLegenda() const {
@@ -295,6 +329,7 @@ QRect PinturaDoDesenho::quadroDosEixos() const {
         quadro.setSize(conteúdo_.eixos.size().scaled(quadro.size(), Qt::KeepAspectRatio).toSize());
         quadro.moveCenter(meio);
     }
+    quadro.setTop(quadro.top() + subidaDaCurva(quadro.height()));
     return {quadro.topLeft(), quadro.size().expandedTo({1, 1})};
 }
 
@@ -321,9 +356,9 @@ void PinturaDoDesenho::pintar(QPainter& pintor, double densidade) const {
     if (!conteúdo_.figura.isEmpty())
         QSvgRenderer{conteúdo_.figura}.render(&pintor, transformação().mapRect(conteúdo_.area));
     pintor.save();
-    // A curve that leaves the scale leaves the picture there, and doesn't run over the captions.
+    // Below the axes and to their left, where the captions stand, a curve that leaves the scale ends.
     if (conteúdo_.éGráfico() && meio_ == Meio::tela)
-        pintor.setClipRect(quadroDosEixos().adjusted(0, -1, 1, 2));
+        pintor.setClipRect(lugarDosTraços().adjusted(0, -1, 1, 2));
     pintarTraços(pintor, densidade);
     pintor.restore();
     if (conteúdo_.éGráfico()) pintarEscalas(pintor);
@@ -340,7 +375,7 @@ void PinturaDoDesenho::pintarTraços(QPainter& pintor, double densidade) const {
                     densidade,
                     lerCurvas(conteúdo_.legenda),
                     meio_,
-                    gráfico && noPapel ? std::optional{QRectF{quadroDosEixos()}} : std::nullopt,
+                    gráfico && noPapel ? std::optional{QRectF{lugarDosTraços()}} : std::nullopt,
                     gráfico && !conteúdo_.proporcional};
     PintorDeTraços pintar{pintor, std::move(traçado)};
     for (const auto& traço : conteúdo_.traços) std::visit(std::ref(pintar), traço);
@@ -390,7 +425,7 @@ void PinturaDoDesenho::pintarEscalas(QPainter& pintor) const {
 void PinturaDoDesenho::pintarLegenda(QPainter& pintor) const {
     const QRect quadro = quadroDosEixos();
     int x = quadro.x() + (quadro.width() - larguraDaLegenda()) / 2;
-    const int y = quadro.y() - margens().top() + folga / 2;
+    const int y = lugarDosTraços().top() - medidas_.height() - folga + folga / 2;
     for (const auto& curva : lerCurvas(conteúdo_.legenda)) {
         pintarAmostra(pintor, curva, noMeio(curva.cor, meio_),
                       {static_cast<double>(x), y + std::floor(medidas_.height() / 2.0)});

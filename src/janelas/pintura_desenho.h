@@ -32,7 +32,8 @@ struct ConteudoDoDesenho {
 };
 
 /// The same content on a screen and in a document: on paper the plot's ground is white, its grid is grey, a
-/// bright green is darker, and strokes end at the axes by themselves, since not every file format can clip.
+/// bright green is darker, and strokes end at their place by themselves, since not every file format can
+/// clip.
 enum class Meio { tela, papel };
 
 /// Lays a drawing out in a rectangle from the origin, and paints it there.
@@ -54,6 +55,13 @@ class PinturaDoDesenho {
 
   private:
     int larguraDaLegenda() const;
+    /// The room between a chart's axes and its legend, or the edge, which the highest tick caption needs.
+    int folgaDoTopo() const;
+    /// By how much axes of that height have to be lower for the curve that rises above them to be whole.
+    int subidaDaCurva(int altura) const;
+    /// The rectangle that strokes end at: the axes, and in a chart what is free above and to the right of
+    /// them, since scales are rounded and may end before their curve.
+    QRect lugarDosTraços() const;
     void pintarFundo(QPainter& pintor) const;
     void pintarTraços(QPainter& pintor, double densidade) const;
     void pintarEscalas(QPainter& pintor) const;

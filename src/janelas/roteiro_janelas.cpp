@@ -54,8 +54,7 @@ bool abrirNasJanelas(Janelas& janelas, const QString& roteiro) {
     janelas.atualizar();
     const auto pergunta =
         QStringLiteral("Executar o roteiro \"%1\"? Ele pode salvar arquivos e substituir os que já existem.");
-    if (!varenta::plataforma::perguntar(pergunta.arg(QFileInfo{roteiro}.fileName()).toStdString()))
-        return true;
+    if (!varenta::dialogos().confirmar(pergunta.arg(QFileInfo{roteiro}.fileName()))) return true;
     std::ostringstream erros;
     varenta::Interprete intérprete{std::cout, erros};
     intérprete.depoisDeCadaComando = [&] { deixarPintar(janelas); };

@@ -9,6 +9,33 @@
 #include <QLabel>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QTimer>
+
+#include <algorithm>
+
+namespace {
+
+// What an arrow with Ctrl moves the point that is read by, in pixels.
+constexpr int passoLongo = 10;
+constexpr QColor corDoPontoLido{0x26, 0x2b, 0x30};
+
+/// Where an arrow points; no way for any other key.
+QPoint direçãoDaSeta(int tecla) {
+    switch (tecla) {
+    case Qt::Key_Left:
+        return {-1, 0};
+    case Qt::Key_Right:
+        return {1, 0};
+    case Qt::Key_Up:
+        return {0, -1};
+    case Qt::Key_Down:
+        return {0, 1};
+    default:
+        return {};
+    }
+}
+
+} // namespace
 
 WidgetDesenho::WidgetDesenho(QWidget* pai) : QWidget{pai} {
     setMouseTracking(true);
@@ -112,14 +139,43 @@ QPointF WidgetDesenho::emUnidades(QPointF ponto) const {
 void WidgetDesenho::resizeEvent(QResizeEvent*) { ancorarFilhos(); }
 
 void WidgetDesenho::mouseMoveEvent(QMouseEvent* evento) {
+    esquecerPontoLido();
     const QPointF ponto = emUnidades(evento->position());
     emit mouseMovido(ponto.x(), ponto.y());
 }
 
 void WidgetDesenho::leaveEvent(QEvent*) { emit mouseSaiu(); }
 
-/// The menu key, where the system makes no event of its own of it.
+void WidgetDesenho::focusOutEvent(QFocusEvent* evento) {
+    // Later: an act in the middle of a change of focus would bring the keyboard back here.
+    if (pontoLido_) QTimer::singleShot(0, this, &WidgetDesenho::mouseSaiu);
+    esquecerPontoLido();
+    QWidget::focusOutEvent(evento);
+}
+
+void WidgetDesenho::moverPontoLido(QPoint passo) {
+    const QRect quadro = quadroDosEixos();
+    const QPoint ponto = pontoLido_.value_or(quadro.center()) + passo;
+    pontoLido_ = QPoint{std::clamp(ponto.x(), quadro.x(), quadro.x() + quadro.width()),
+                        std::clamp(ponto.y(), quadro.y(), quadro.y() + quadro.height())};
+    update();
+    const QPointF lido = emUnidades(*pontoLido_);
+    emit mouseMovido(lido.x(), lido.y());
+}
+
+void WidgetDesenho::esquecerPontoLido() {
+    if (!pontoLido_) return;
+    pontoLido_.reset();
+    update();
+}
+
+/// The arrows, and the menu key where the system makes no event of its own of it.
 void WidgetDesenho::keyPressEvent(QKeyEvent* evento) {
+    const bool lê = éGráfico() && !property("leitura").toStringList().isEmpty();
+    if (const QPoint direção = direçãoDaSeta(evento->key()); lê && !direção.isNull()) {
+        moverPontoLido(direção * (evento->modifiers() & Qt::ControlModifier ? passoLongo : 1));
+        return;
+    }
     if (!éTeclaDeMenu(*evento)) return QWidget::keyPressEvent(evento);
     const QPoint meio = rect().center();
     QContextMenuEvent menu{QContextMenuEvent::Keyboard, meio, mapToGlobal(meio)};
@@ -129,7 +185,13 @@ void WidgetDesenho::keyPressEvent(QKeyEvent* evento) {
 void WidgetDesenho::paintEvent(QPaintEvent*) {
     const double densidade = devicePixelRatioF();
     if (imagem_.size() != size() * densidade || imagem_.devicePixelRatio() != densidade) pintarImagem();
-    QPainter{this}.drawImage(0, 0, imagem_);
+    QPainter pintor{this};
+    pintor.drawImage(0, 0, imagem_);
+    if (!pontoLido_) return;
+    const QRect quadro = quadroDosEixos();
+    pintor.setPen(QPen{corDoPontoLido, 1, Qt::DotLine});
+    pintor.drawLine(quadro.x(), pontoLido_->y(), quadro.x() + quadro.width(), pontoLido_->y());
+    pintor.drawLine(pontoLido_->x(), quadro.y(), pontoLido_->x(), quadro.y() + quadro.height());
 }
 
 void WidgetDesenho::pintarImagem() {

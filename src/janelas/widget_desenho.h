@@ -70,7 +70,7 @@ class WidgetDesenho : public QWidget {
     QSize minimumSizeHint() const override;
 
   signals:
-    /// The mouse moved over it, in canvas units.
+    /// The mouse, or the point that the arrows move over a chart with a read-out, moved, in canvas units.
     void mouseMovido(double x, double y);
     void mouseSaiu();
 
@@ -81,11 +81,15 @@ class WidgetDesenho : public QWidget {
     void mouseMoveEvent(QMouseEvent* evento) override;
     void leaveEvent(QEvent* evento) override;
     void keyPressEvent(QKeyEvent* evento) override;
+    void focusOutEvent(QFocusEvent* evento) override;
 
   private:
     bool éGráfico() const { return !eixos_.isEmpty(); }
     PinturaDoDesenho pintura() const;
     QPointF emUnidades(QPointF ponto) const;
+    /// Moves the point that is read by as many pixels, from the middle at first. It stays within the axes.
+    void moverPontoLido(QPoint passo);
+    void esquecerPontoLido();
     void ancorarFilhos();
     void pintarImagem();
 
@@ -99,4 +103,5 @@ class WidgetDesenho : public QWidget {
     std::optional<std::uint64_t> versão_;
     QStringList escalaX_, escalaY_;
     QImage imagem_;
+    std::optional<QPoint> pontoLido_;
 };

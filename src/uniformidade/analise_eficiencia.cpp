@@ -130,6 +130,7 @@ bool analisar(const FonteDoAspersor& fonte) {
 
     const auto volumes = somarVolumes(lâminas, A, bandas.início, bandas.fim);
     const double horas = horasDeIrrigação(), Vt = horas * lerPrefixo(fonte.vazão.texto);
+    form9->faixaAnalisada = descriçãoDaFaixa();
     escreverVolumes(horas, Vt, volumes);
     const auto tabela =
         analisarFaixa(lâminas, A, bandas.início, bandas.fim, dividir(volumes.soma, volumes.células), Vt);

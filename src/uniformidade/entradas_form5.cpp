@@ -130,4 +130,13 @@ BandasDaFaixa lerBandas(int N, double s, double R) {
                          Cc + alémDaMovimentação(extremoFinal(), R));
 }
 
+std::vector<std::string> descriçãoDaFaixa() {
+    const auto& f = *form5.operator->();
+    std::vector<std::string> textos{f.lblCi.texto, f.lblCc.texto, f.lblCf.texto};
+    for (const auto& extremo : {extremoInicial(), extremoFinal()})
+        if (!extremo.tempo.texto.empty())
+            textos.push_back(extremo.rótulosDoTempo[0]->texto + " " + extremo.tempo.texto + " min");
+    return textos;
+}
+
 } // namespace varenta

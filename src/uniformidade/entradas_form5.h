@@ -6,6 +6,7 @@
 #include <array>
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace varenta {
 
@@ -53,5 +54,8 @@ bool entradasDaFaixaVálidas(double R);
 
 /// The rows that bound the strip's bands, as the screen stands.
 BandasDaFaixa lerBandas(int N, double s, double R);
+
+/// What tells the strip: lengths in m and, where there are any, stops in min.
+std::vector<std::string> descriçãoDaFaixa();
 
 } // namespace varenta

@@ -16,6 +16,9 @@ void form9_Picture2_MouseMove(double x, double y);
 struct RegistroForm9 {
     std::string Caption = "Análise das Eficiâncias";
 
+    /// What tells the strip that was analysed, for the figures.
+    std::vector<std::string> faixaAnalisada;
+
     Rotulo Label3{.texto = "Volume Total Aplicado: "};
     Rotulo Label4{.texto = "Tempo de Irrigação: "};
     Rotulo Label5{.texto = "Erro Volumétrico: "};

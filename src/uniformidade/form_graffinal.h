@@ -12,6 +12,9 @@ void form_grafFinal_Command1_Click();
 struct RegistroFormGrafFinal {
     std::string Caption = "Distribuição de Água na Faixa Irrigada";
 
+    /// What tells the strip that was drawn, for the figures.
+    std::vector<std::string> faixaDesenhada;
+
     Rotulo Label15{.texto = "Maior Precipitação: "};
     /// Mean depth of all cells of the field.
     Rotulo Label7;

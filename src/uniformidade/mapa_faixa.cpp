@@ -3,6 +3,7 @@
 #include "comum/ampulheta.h"
 #include "comum/numeros.h"
 #include "simulacao/legenda_mapa.h"
+#include "uniformidade/entradas_form5.h"
 #include "uniformidade/form5.h"
 #include "uniformidade/form_graffinal.h"
 #include "uniformidade/uniformidade_faixa.h"
@@ -25,6 +26,7 @@ bool desenhar(const FonteDoAspersor& fonte) {
     const auto faixa = calcularFaixaIrrigada(*dados);
 
     auto& f = *form_grafFinal.operator->();
+    f.faixaDesenhada = descriçãoDaFaixa();
     avisarDoModelo(f.lblAviso, faixa.contagem);
     f.Label7.texto = Format(médiaDeTodas(faixa.lâminas), "0.000") + " mm";
     f.Label16.texto = "CUC - Toda: " + form5->Label6.texto + "%";

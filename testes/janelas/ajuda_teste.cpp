@@ -6,11 +6,17 @@
 #include "janelas/janela_ajuda.h"
 
 #include <QAction>
+#include <QDir>
+#include <QDirIterator>
 #include <QFile>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QRegularExpression>
+#include <QScreen>
+#include <QTabBar>
+#include <QTabWidget>
 #include <QTextBrowser>
+#include <QTextDocument>
 
 #include <algorithm>
 #include <set>
@@ -91,6 +97,155 @@ TEST(Ajuda, ABuscaAchaPalavrasSemAcentosEOrdenaPelasMaisCitadas) {
     }
     EXPECT_TRUE(buscarNaAjuda(páginas, QStringLiteral("xyzzy")).empty());
     EXPECT_TRUE(buscarNaAjuda(páginas, QString{}).empty());
+}
+
+/// A text of the sources: literals side by side are one. `antes` is what stands before it.
+struct Literal {
+    QString texto, antes;
+};
+
+std::vector<Literal> literaisDoPrograma() {
+    // Comments first, since they may hold quotes.
+    static const QRegularExpression peças{
+        QStringLiteral(R"re(//[^\n]*|"(?:[^"\\\n]|\\.)*"(?:\s*"(?:[^"\\\n]|\\.)*")*)re")};
+    static const QRegularExpression emendas{QStringLiteral("\"\\s*\"")};
+    std::vector<Literal> literais;
+    QDirIterator arquivos{QStringLiteral(PASTA_DE_EXEMPLOS "../src"),
+                          {"*.cpp", "*.h"},
+                          QDir::Files,
+                          QDirIterator::Subdirectories};
+    while (arquivos.hasNext()) {
+        QFile arquivo{arquivos.next()};
+        EXPECT_TRUE(arquivo.open(QIODevice::ReadOnly));
+        const auto fonte = QString::fromUtf8(arquivo.readAll());
+        for (auto achados = peças.globalMatch(fonte); achados.hasNext();) {
+            const auto achado = achados.next();
+            auto texto = achado.captured();
+            if (texto.startsWith(QLatin1Char{'/'})) continue;
+            texto.replace(emendas, {}).replace(QLatin1String{"\\\""}, QLatin1String{"\""});
+            texto.replace(QLatin1String{"\\n"}, QLatin1String{" "});
+            literais.push_back(
+                {texto.sliced(1, texto.size() - 2), fonte.first(achado.capturedStart()).right(60).trimmed()});
+        }
+    }
+    return literais;
+}
+
+/// What a person can be told: what ends as a message does, asks something, or explains a run-time error.
+bool éMensagem(const Literal& literal) {
+    static const QRegularExpression fim{QStringLiteral("[!?]\\s*$|\\? ")};
+    static const QRegularExpression explicação{
+        QStringLiteral("(explicarErro|explicarNoEnsaio)\\s*\\($|explicação\\s*=$")};
+    return literal.texto.size() > 3 && (literal.texto.contains(fim) || literal.antes.contains(explicação));
+}
+
+QString comoSeLê(const QString& página) {
+    QTextDocument documento;
+    documento.setHtml(ler(página));
+    return documento.toPlainText().simplified();
+}
+
+TEST(Ajuda, TodaMensagemDoProgramaEstáEntreAsMensagens) {
+    const auto página = comoSeLê(QStringLiteral("mensagens.html"));
+    // A caption beside the best spacing, not a message.
+    const QString legenda = QStringLiteral("MAIOR CUC!");
+    int quantas = 0;
+    for (const auto& literal : literaisDoPrograma()) {
+        if (!éMensagem(literal) || literal.texto == legenda) continue;
+        ++quantas;
+        // Of what went wrong inside a message the page tells the message.
+        const auto começo = literal.texto.section(QLatin1String{": "}, 0, 0) + QStringLiteral(": …!");
+        if (página.contains(começo)) continue;
+        // Where values come in, the page has "…".
+        for (const auto& parte : literal.texto.split(QStringLiteral("%1")))
+            EXPECT_TRUE(página.contains(parte.simplified())) << literal.texto.toStdString();
+    }
+    EXPECT_GT(quantas, 100);
+}
+
+TEST(Ajuda, AsMensagensDaAjudaSãoDoPrograma) {
+    QString programa;
+    for (const auto& literal : literaisDoPrograma())
+        programa += literal.texto.simplified() + QLatin1Char{'\n'};
+    static const QRegularExpression linha{QStringLiteral("<tr><td width=\"60%\">(.*?)</td>")};
+    // Values, and where a message is put together.
+    static const QRegularExpression valores{
+        QStringLiteral("…|: | [dn]o Ensaio|\\b[0-9]+\\b|\\bA\\b|\\bdeve ser\\b|\\bpontos\\b|;|, | por$|serão "
+                       "multiplicados por")};
+    int quantas = 0;
+    for (auto achadas = linha.globalMatch(ler(QStringLiteral("mensagens.html"))); achadas.hasNext();) {
+        QTextDocument documento;
+        documento.setHtml(achadas.next().captured(1));
+        const auto mensagem = documento.toPlainText();
+        auto partes = mensagem.split(valores);
+        // The longest part is the message's own.
+        const auto própria = std::ranges::max_element(partes, {}, &QString::size)->simplified();
+        EXPECT_TRUE(programa.contains(própria)) << mensagem.toStdString() << " | " << própria.toStdString();
+        ++quantas;
+    }
+    EXPECT_GT(quantas, 100);
+}
+
+TEST(Ajuda, TodoArquivoDeExemploTemSeuNomeNaAjuda) {
+    const auto páginas = ler(QStringLiteral("arquivos.html")) + ler(QStringLiteral("roteiros.html"));
+    const QDir exemplos{QStringLiteral(PASTA_DE_EXEMPLOS)};
+    int quantos = 0;
+    for (const auto& arquivo : exemplos.entryList({"*.txt", "*.csv", "*.roteiro"}, QDir::Files)) {
+        EXPECT_TRUE(páginas.contains(QStringLiteral("<code>%1</code>").arg(arquivo)))
+            << arquivo.toStdString();
+        ++quantos;
+    }
+    EXPECT_GT(quantos, 15);
+    // What a script prints is named along with it.
+    for (const auto& arquivo : exemplos.entryList({"*.esperado"}, QDir::Files))
+        EXPECT_TRUE(exemplos.exists(arquivo.chopped(8) + QStringLiteral("roteiro"))) << arquivo.toStdString();
+    EXPECT_TRUE(páginas.contains(QStringLiteral("<code>.esperado</code>")));
+}
+
+TEST(Ajuda, AltECtrlFLevamÀCaixaEEnterAbreOPrimeiroAchado) {
+    JanelaDaAjuda janela;
+    janela.mostrarTópico(std::nullopt);
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&janela));
+    auto* busca = janela.findChild<QLineEdit*>(QStringLiteral("busca"));
+    auto* filtro = janela.findChild<QLineEdit*>(QStringLiteral("filtroDoIndice"));
+    QTest::keyClick(&janela, Qt::Key_B, Qt::AltModifier);
+    EXPECT_TRUE(busca->hasFocus());
+    QTest::keyClick(&janela, Qt::Key_N, Qt::AltModifier);
+    EXPECT_TRUE(filtro->hasFocus());
+    QTest::keyClick(&janela, Qt::Key_F, Qt::ControlModifier);
+    EXPECT_TRUE(busca->hasFocus());
+    // On the tab that is in front already, too.
+    janela.findChild<QTextBrowser*>(QStringLiteral("pagina"))->setFocus();
+    QTest::keyClick(&janela, Qt::Key_B, Qt::AltModifier);
+    EXPECT_TRUE(busca->hasFocus());
+
+    QTest::keyClicks(busca, QStringLiteral("xyzzy"));
+    const auto antes = janela.páginaAtual();
+    QTest::keyClick(busca, Qt::Key_Return);
+    EXPECT_EQ(janela.páginaAtual(), antes);
+    busca->clear();
+    QTest::keyClicks(busca, QStringLiteral("lamina requerida"));
+    QTest::keyClick(busca, Qt::Key_Return);
+    const auto páginas = lerPáginasDaAjuda();
+    const auto achadas = buscarNaAjuda(páginas, QStringLiteral("lamina requerida"));
+    EXPECT_EQ(janela.páginaAtual(), achadas.front()->arquivo);
+
+    QTest::keyClick(&janela, Qt::Key_N, Qt::AltModifier);
+    QTest::keyClicks(filtro, QStringLiteral("deficit"));
+    QTest::keyClick(filtro, Qt::Key_Return);
+    EXPECT_EQ(janela.páginaAtual(), QStringLiteral("form9.html"));
+}
+
+TEST(Ajuda, AJanelaAbreNoMeioEDepoisOndeFoiDeixada) {
+    JanelaDaAjuda janela;
+    janela.mostrarTópico(std::nullopt);
+    const auto meio = QGuiApplication::primaryScreen()->availableGeometry().center();
+    EXPECT_LT((janela.geometry().center() - meio).manhattanLength(), 40);
+    janela.move(150, 60);
+    const auto deixada = janela.pos();
+    janela.hide();
+    janela.mostrarTópico(topicos::form5);
+    EXPECT_EQ(janela.pos(), deixada);
 }
 
 TEST(Ajuda, AJanelaMostraOTópicoABuscaEOÍndice) {

@@ -35,6 +35,11 @@ class ComJanelas : public testing::Test {
                     caixas.push_back(texto);
                     return tirar(respostas);
                 },
+            .confirmar =
+                [this](const QString& texto) {
+                    caixas.push_back(texto);
+                    return tirar(respostas);
+                },
             .erroDeExecucao = [this](const QString& texto) { caixas.push_back(texto); },
             .arquivoParaAbrir =
                 [this](const QString& filtros) {

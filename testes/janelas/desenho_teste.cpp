@@ -200,6 +200,57 @@ TEST_F(Grafico, a_curva_que_sai_da_escala_não_cobre_as_legendas) {
         EXPECT_NE(imagem.pixelColor(x, y), QColor(Qt::red));
 }
 
+/// The highest row of an image with the colour in columns near x.
+int primeiraLinhaCom(QColor cor, const QImage& imagem, int x) {
+    for (int y = 0; y < imagem.height(); ++y)
+        for (int vizinho = x - 2; vizinho <= x + 2; ++vizinho)
+            if (imagem.pixelColor(vizinho, y) == cor) return y;
+    return imagem.height();
+}
+
+TEST_F(Grafico, a_curva_que_passa_da_última_marca_continua_à_vista_acima_dos_eixos) {
+    widget.setProperty("legenda", QStringList{"Lâmina=#0000ff"});
+    desenho.larguraTraco(2);
+    for (const double pico : {25.0, 18.0, 0.0}) {
+        desenho.limpar();
+        desenho.linha(80, 100, 180, pico, cores::vermelho);
+        desenho.linha(180, pico, 230, pico, cores::vermelho);
+        desenho.linha(230, pico, 340, 100, cores::vermelho);
+        for (const QSize tamanho : {QSize{500, 300}, {1000, 800}}) {
+            widget.resize(tamanho);
+            widget.mostrar(desenho);
+            const auto imagem = widget.grab().toImage();
+            const QPointF alto = widget.transformação().map(QPointF{205, pico});
+            const int linha = primeiraLinhaCom(Qt::red, imagem, static_cast<int>(alto.x()));
+            EXPECT_LT(linha, widget.quadroDosEixos().top()) << pico;
+            EXPECT_NEAR(linha, alto.y(), 2) << pico;
+            // Below the legend.
+            EXPECT_GT(linha, widget.fontMetrics().height()) << pico;
+        }
+    }
+}
+
+TEST_F(Grafico, a_curva_muito_acima_da_escala_fica_abaixo_da_legenda_e_não_esmaga_os_eixos) {
+    const int antes = widget.quadroDosEixos().height();
+    widget.setProperty("legenda", QStringList{"Lâmina=#0000ff"});
+    desenho.linha(200, 100, 200, -5000, cores::vermelho);
+    widget.mostrar(desenho);
+    const int x = static_cast<int>(widget.transformação().map(QPointF{200, 100}).x());
+    const int linha = primeiraLinhaCom(Qt::red, widget.grab().toImage(), x);
+    EXPECT_LT(linha, widget.quadroDosEixos().top() - 10);
+    EXPECT_GT(linha, widget.fontMetrics().height());
+    EXPECT_GT(widget.quadroDosEixos().height(), antes * 0.7);
+}
+
+TEST_F(Grafico, a_curva_que_passa_do_fim_da_escala_horizontal_continua_à_vista) {
+    desenho.linha(300, 100, 350, 100, cores::vermelho);
+    widget.mostrar(desenho);
+    const auto imagem = widget.grab().toImage();
+    const auto fim = widget.transformação().map(QPointF{350, 100}).toPoint();
+    EXPECT_GT(fim.x() - 1, widget.quadroDosEixos().right() + 1);
+    EXPECT_NEAR(primeiraLinhaCom(Qt::red, imagem, fim.x() - 1), fim.y(), 1);
+}
+
 TEST_F(Grafico, rótulos_fixos_ficam_no_lugar_dos_da_escala_vertical) {
     widget.setProperty("rotulosYFixos", QStringList{"10", "1000000"});
     const QRect antes = widget.quadroDosEixos();

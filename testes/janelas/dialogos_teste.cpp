@@ -60,6 +60,16 @@ TEST_F(CaixasDoQt, a_pergunta_tem_Sim_e_Não) {
     }
 }
 
+TEST_F(CaixasDoQt, Enter_na_pergunta_é_Sim_e_no_que_pode_fazer_mal_é_Não) {
+    const auto enter = [](QMessageBox& caixa) { QTest::keyClick(&caixa, Qt::Key_Return); };
+    aoAbrir<QMessageBox>(enter);
+    EXPECT_TRUE(plataforma::perguntar("Continua?"));
+    aoAbrir<QMessageBox>(enter);
+    EXPECT_FALSE(dialogos().confirmar("Executar?"));
+    aoAbrir<QMessageBox>([](QMessageBox& caixa) { apertar(caixa, QMessageBox::Yes); });
+    EXPECT_TRUE(dialogos().confirmar("Executar?"));
+}
+
 TEST_F(CaixasDoQt, Esc_na_pergunta_é_Não) {
     aoAbrir<QMessageBox>([](QMessageBox& caixa) { QTest::keyClick(&caixa, Qt::Key_Escape); });
     EXPECT_FALSE(plataforma::perguntar("Continua?"));

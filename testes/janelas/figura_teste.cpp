@@ -1,9 +1,13 @@
 #include "com_janelas.h"
 
+#include "ajuste/form_e.h"
+#include "campo/form_unifo.h"
+#include "janelas/figura.h"
 #include "janelas/figuras_das_telas.h"
 #include "janelas/telas.h"
 #include "janelas/widget_desenho.h"
 #include "roteiro/interprete.h"
+#include "uniformidade/form5.h"
 
 #include <QClipboard>
 #include <QContextMenuEvent>
@@ -14,6 +18,7 @@
 #include <QLabel>
 #include <QMenu>
 #include <QMimeData>
+#include <QPainter>
 #include <QRegularExpression>
 #include <QSvgRenderer>
 #include <QTemporaryDir>
@@ -524,6 +529,66 @@ TEST_F(ComandosDaFigura, o_diálogo_do_Qt_diz_o_arquivo_e_o_filtro) {
     EXPECT_EQ(escolhido->filtro, 3);
 }
 
+/// The default study's strip: its greatest depth is above the last tick of the scale, which is rounded down.
+constexpr const char* faixaAcimaDaEscala = R"(clicar Form3.TX20B
+clicar form1.Command3
+clicar Form7.Command2
+clicar Form7.cmdUniformidade
+clicar Form4.Command8
+clicar Form4.Command9
+clicar Form4.Command5
+clicar Form5.Command10
+)";
+
+QImage quadroDoSvg(const QByteArray& svg, QSize tamanho) {
+    QImage imagem{tamanho, QImage::Format_RGB32};
+    imagem.fill(Qt::white);
+    QPainter pintor{&imagem};
+    QSvgRenderer{svg}.render(&pintor);
+    return imagem;
+}
+
+/// How many rows of the blue curve's middle lie above the highest grey line, which is of the heavy or light
+/// grid.
+int linhasAcimaDaMalha(const QImage& imagem) {
+    const auto azul = [](QColor c) { return c.blue() > 200 && c.red() < 80 && c.green() < 80; };
+    const auto malha = [](QColor c) { return c.red() > 150 && c.red() < 245 && c.blue() - c.red() < 12; };
+    int acima = 0;
+    // The title stands in the first tenth.
+    for (int y = imagem.height() / 10; y < imagem.height(); ++y) {
+        int azuis = 0, cinzas = 0;
+        for (int x = imagem.width() / 4; x < imagem.width() * 3 / 4; ++x) {
+            azuis += azul(imagem.pixelColor(x, y));
+            cinzas += malha(imagem.pixelColor(x, y));
+        }
+        if (cinzas > imagem.width() / 4) return acima;
+        acima += azuis > imagem.width() / 20;
+    }
+    return acima;
+}
+
+TEST_F(ComFiguras, a_curva_que_passa_da_última_marca_está_inteira_na_tela_e_no_papel) {
+    percorrer(faixaAcimaDaEscala);
+    auto& gráfico = desenho("Form5.Picture2");
+    double topo = 1e9;
+    QPointF pico;
+    for (const auto& traço : form5->Picture2.traços)
+        if (const auto* linha = std::get_if<Linha>(&traço); linha && linha->cor == cores::azul)
+            if (linha->y1 < topo) {
+                topo = linha->y1;
+                pico = QPointF{linha->x1, linha->y1};
+            }
+    ASSERT_LT(topo, 7);
+    const auto naTela = gráfico.grab().toImage();
+    const auto lugar = gráfico.transformação().map(pico).toPoint();
+    ASSERT_LT(lugar.y(), gráfico.quadroDosEixos().top());
+    EXPECT_GT(naTela.pixelColor(lugar).blue(), naTela.pixelColor(lugar).red() + 100);
+
+    EXPECT_GT(linhasAcimaDaMalha(imagemDaFigura(figuraDaTela(gráfico, form5), 96)), 0);
+    const auto svg = salvar(gráfico, filtroSvg, "svg");
+    EXPECT_GT(linhasAcimaDaMalha(quadroDoSvg(svg, QSvgRenderer{svg}.defaultSize())), 0);
+}
+
 class DadosDaFigura : public ComFiguras {
   protected:
     QStringList dadosDe(const char* nome) {
@@ -570,6 +635,70 @@ clicar Form_EC.Option2
 clicar Form_EC.Command4
 )");
     EXPECT_TRUE(dadosDe("FormUnifo.Picture1").contains("Espaçamento: E = 24 m"));
+}
+
+TEST_F(DadosDaFigura, de_uma_comparação_dizem_os_coletores_e_o_percurso_comparados) {
+    const auto contém = [&](const char* nome, const QStringList& esperados) {
+        const auto dados = dadosDe(nome);
+        for (const auto& esperado : esperados)
+            EXPECT_TRUE(dados.contains(esperado)) << nome << " " << esperado.toStdString();
+    };
+    percorrer(roteiroDe("malha"));
+    const QStringList malha{"Espaçamento entre Coletores: 6.0 m", "Coletores: 18 x 18"};
+    for (const auto* nome : {"Form_graf1.Picture1", "Form_graf1.Picture2"}) contém(nome, malha);
+    // What the test's screen has afterwards isn't what the figure shows.
+    form_E1->Combo1.texto = "3.0";
+    contém("Form_graf1.Picture1", malha);
+
+    percorrer(roteiroDe("autopropelido"));
+    const QStringList móvel{"Espaçamento entre Coletores: 3.0 m", "Coletores de Cada Lado: 20",
+                            "Velocidade: 40 m/h", "Ângulo de Giro: 240º"};
+    for (const auto* nome : {"Form_MIgraf1.Picture1", "Form_MIgraf1.Picture2"}) contém(nome, móvel);
+}
+
+TEST_F(DadosDaFigura, da_sobreposição_medida_têm_o_espaçamento_dos_coletores) {
+    percorrer(roteiroDe("campo"));
+    for (const auto* nome : {"FormUnifo.Picture1", "FormUnifo.Picture2"})
+        EXPECT_TRUE(dadosDe(nome).contains("Espaçamento entre Coletores: 2.0 m")) << nome;
+    EXPECT_TRUE(dadosDe("FormUnifo.Picture2")
+                    .contains("Espaçamento de Maior CUC: " +
+                              QString::fromStdString(formUnifo->lblE.texto).simplified()));
+}
+
+TEST_F(DadosDaFigura, da_faixa_são_os_de_quando_foi_desenhada) {
+    percorrer(roteiroDe("catalogo"));
+    const QStringList faixa{"Cc = 150 m", "Ci = 20 m", "Cf = 0 m"};
+    const char* nomes[] = {"Form9.Picture1", "Form9.Picture2", "Form_grafFinal.Picture1"};
+    const auto conferir = [&] {
+        for (const auto* nome : nomes)
+            for (const auto& esperado : faixa)
+                EXPECT_TRUE(dadosDe(nome).contains(esperado)) << nome << esperado.toStdString();
+    };
+    conferir();
+    EXPECT_TRUE(dadosDe("Form5.Picture2").contains("Cc = 150 m"));
+    form5->txtMan.texto = "200";
+    form5->txtMan.aoMudar();
+    EXPECT_FALSE(dadosDe("Form5.Picture2").contains("Cc = 150 m"));
+    conferir();
+}
+
+TEST_F(DadosDaFigura, da_faixa_têm_as_paradas) {
+    percorrer(R"(clicar Form3.TX20B
+clicar form1.Command3
+clicar Form7.Command2
+clicar Form7.cmdUniformidade
+clicar Form4.Command8
+clicar Form4.Command9
+clicar Form4.Command5
+escolher Form5.Combo1 "Outro Valor"
+digitar Form5.txtOutro 20
+clicar Form5.chkParada
+digitar Form5.txtParada 30
+clicar Form5.Command10
+clicar Form5.Command12
+)");
+    EXPECT_TRUE(dadosDe("Form9.Picture1").contains("Tpi = 30 min"));
+    EXPECT_FALSE(dadosDe("Form9.Picture1").join(' ').contains("Tpf"));
 }
 
 TEST_F(DadosDaFigura, a_legenda_ao_lado_do_desenho_tem_suas_cores) {

@@ -403,6 +403,36 @@ TEST_F(MãosEOlhos, Esc_em_um_ensaio_pergunta_como_Fechar) {
     EXPECT_TRUE(form_E1.visivel);
 }
 
+TEST_F(MãosEOlhos, as_setas_movem_o_ponto_lido_de_um_gráfico) {
+    auto& janelaDaFaixa = mostrarSó(form5);
+    janelaDaFaixa.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&janelaDaFaixa));
+    auto& gráfico = widget<WidgetDesenho>(form5, "Picture2");
+    gráfico.setFocus(Qt::TabFocusReason);
+    const auto quadro = gráfico.quadroDosEixos();
+    const auto lido = [&] { return estado(form5).text(); };
+    const auto sobOPonteiro = [&](QPoint ponto) {
+        moverMouse(gráfico, ponto);
+        return lido();
+    };
+    const auto semLeitura = lido();
+    QTest::keyClick(&gráfico, Qt::Key_Right);
+    QTest::keyClick(&gráfico, Qt::Key_Up, Qt::ControlModifier);
+    const auto pelasSetas = lido();
+    EXPECT_NE(pelasSetas, semLeitura);
+    EXPECT_EQ(pelasSetas, sobOPonteiro(quadro.center() + QPoint{1, -10}));
+    // It doesn't leave the axes.
+    for (int k = 0; k < 2000 / 10; ++k) QTest::keyClick(&gráfico, Qt::Key_Left, Qt::ControlModifier);
+    const auto naBorda = lido();
+    EXPECT_EQ(naBorda, sobOPonteiro({quadro.x(), quadro.center().y()}));
+    QTest::keyClick(&gráfico, Qt::Key_Down);
+    ASSERT_TRUE(gráfico.hasFocus());
+    auto& comprimento = widget<QLineEdit>(form5, "txtMan");
+    comprimento.setFocus(Qt::TabFocusReason);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return lido() == comprimento.toolTip(); })) << lido().toStdString();
+    EXPECT_TRUE(comprimento.hasFocus());
+}
+
 TEST_F(MãosEOlhos, a_linha_de_estado_lê_o_gráfico_sob_o_ponteiro) {
     mostrarSó(form5);
     auto& gráfico = widget<WidgetDesenho>(form5, "Picture2");
