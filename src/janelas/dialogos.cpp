@@ -8,9 +8,12 @@
 #include <QElapsedTimer>
 #include <QFileDialog>
 #include <QGuiApplication>
+#include <QHeaderView>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QRegularExpression>
+#include <QSplitter>
+#include <QTreeView>
 
 #include <string>
 
@@ -26,7 +29,16 @@ QMessageBox::StandardButton mostrarCaixa(QMessageBox::Icon ícone, const QString
     return static_cast<QMessageBox::StandardButton>(caixa.exec());
 }
 
+/// Qt's own dialog opens too small for its columns and for the names of the places beside them.
+void mostrarNomesInteiros(QFileDialog& diálogo) {
+    diálogo.resize(diálogo.sizeHint().expandedTo({900, 500}));
+    if (auto* divisão = diálogo.findChild<QSplitter*>()) divisão->setSizes({140, 700});
+    if (auto* arquivos = diálogo.findChild<QTreeView*>())
+        arquivos->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+}
+
 std::optional<QString> escolherArquivo(QFileDialog& diálogo) {
+    mostrarNomesInteiros(diálogo);
     if (diálogo.exec() != QDialog::Accepted) return std::nullopt;
     return diálogo.selectedFiles().value(0);
 }

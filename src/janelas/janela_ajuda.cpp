@@ -27,6 +27,9 @@
 namespace {
 
 constexpr int arquivoDoItem = Qt::UserRole;
+// A page's lines are neither too long to be read nor broken at every few words.
+constexpr int larguraDaPágina = 720;
+constexpr int barraEBordas = 36;
 
 QString lerRecurso(const QString& nome) {
     QFile arquivo{QString::fromLatin1(pastaDaAjuda) + nome};
@@ -124,10 +127,14 @@ JanelaDaAjuda::JanelaDaAjuda() : páginas_{lerPáginasDaAjuda()}, página_{new Q
     setWindowTitle(QStringLiteral("Ajuda do Varenta"));
     página_->setObjectName(QStringLiteral("pagina"));
     página_->setAccessibleName(QStringLiteral("Página da ajuda"));
-    // Its figures are made for light paper.
-    página_->setPalette(paletaClara());
+    // Its figures are made for light paper. Links take their colour from the program's palette, not from the
+    // page's.
+    const auto claras = paletaClara();
+    página_->setPalette(claras);
     página_->setSearchPaths({QString::fromLatin1(pastaDaAjuda)});
-    página_->document()->setDefaultStyleSheet(lerRecurso(QStringLiteral("estilo.css")));
+    página_->document()->setDefaultStyleSheet(
+        lerRecurso(QStringLiteral("estilo.css")) +
+        QStringLiteral("a { color: %1; }").arg(claras.color(QPalette::Link).name()));
     connect(página_, &QTextBrowser::sourceChanged, this,
             [this](const QUrl& url) { marcarNoConteúdo(url.fileName()); });
 
@@ -140,12 +147,14 @@ JanelaDaAjuda::JanelaDaAjuda() : páginas_{lerPáginasDaAjuda()}, página_{new Q
     divisão->addWidget(abas);
     divisão->addWidget(página_);
     divisão->setStretchFactor(1, 1);
-    divisão->setSizes({300, 700});
+    const QAbstractItemView& árvore = *conteúdo_;
+    const int doConteúdo = árvore.sizeHintForColumn(0) + barraEBordas;
+    divisão->setSizes({doConteúdo, larguraDaPágina});
 
     auto* pilha = new QVBoxLayout{this};
     pilha->addWidget(criarBarra());
     pilha->addWidget(divisão, 1);
-    resize(1000, 680);
+    resize(doConteúdo + larguraDaPágina, 680);
     connect(new QShortcut{QKeySequence{Qt::Key_Escape}, this}, &QShortcut::activated, this, &QWidget::hide);
 }
 

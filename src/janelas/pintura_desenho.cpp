@@ -298,6 +298,14 @@ QRect PinturaDoDesenho::quadroDosEixos() const {
     return {quadro.topLeft(), quadro.size().expandedTo({1, 1})};
 }
 
+/// A curve that leaves the scale leaves the picture there, and doesn't run over the captions. At the top of a
+/// chart it may go on a little: the scale ends at a rounded number of ticks, below the largest value as often
+/// as above it, and a level stretch of the curve would be missing.
+QRect PinturaDoDesenho::lugarDosTraços() const {
+    const int sobra = conteúdo_.proporcional ? 0 : medidas_.height() / 2;
+    return quadroDosEixos().adjusted(0, -sobra, 0, 0);
+}
+
 QTransform PinturaDoDesenho::transformação() const {
     QTransform t;
     if (conteúdo_.éGráfico()) {
@@ -321,9 +329,8 @@ void PinturaDoDesenho::pintar(QPainter& pintor, double densidade) const {
     if (!conteúdo_.figura.isEmpty())
         QSvgRenderer{conteúdo_.figura}.render(&pintor, transformação().mapRect(conteúdo_.area));
     pintor.save();
-    // A curve that leaves the scale leaves the picture there, and doesn't run over the captions.
     if (conteúdo_.éGráfico() && meio_ == Meio::tela)
-        pintor.setClipRect(quadroDosEixos().adjusted(0, -1, 1, 2));
+        pintor.setClipRect(lugarDosTraços().adjusted(0, -1, 1, 2));
     pintarTraços(pintor, densidade);
     pintor.restore();
     if (conteúdo_.éGráfico()) pintarEscalas(pintor);
@@ -340,7 +347,7 @@ void PinturaDoDesenho::pintarTraços(QPainter& pintor, double densidade) const {
                     densidade,
                     lerCurvas(conteúdo_.legenda),
                     meio_,
-                    gráfico && noPapel ? std::optional{QRectF{quadroDosEixos()}} : std::nullopt,
+                    gráfico && noPapel ? std::optional{QRectF{lugarDosTraços()}} : std::nullopt,
                     gráfico && !conteúdo_.proporcional};
     PintorDeTraços pintar{pintor, std::move(traçado)};
     for (const auto& traço : conteúdo_.traços) std::visit(std::ref(pintar), traço);

@@ -54,6 +54,7 @@ class PinturaDoDesenho {
 
   private:
     int larguraDaLegenda() const;
+    QRect lugarDosTraços() const;
     void pintarFundo(QPainter& pintor) const;
     void pintarTraços(QPainter& pintor, double densidade) const;
     void pintarEscalas(QPainter& pintor) const;

@@ -200,6 +200,22 @@ TEST_F(Grafico, a_curva_que_sai_da_escala_não_cobre_as_legendas) {
         EXPECT_NE(imagem.pixelColor(x, y), QColor(Qt::red));
 }
 
+/// A level stretch of a curve just above the last tick is seen; what goes far beyond ends before the legend.
+TEST_F(Grafico, a_curva_que_passa_do_topo_da_escala_se_vê_até_a_legenda) {
+    widget.setProperty("legenda", QStringList{"I médio=#ff0000"});
+    desenho.linha(100, 24, 180, 24, cores::vermelho);
+    desenho.linha(300, 100, 300, 0, cores::vermelho);
+    widget.mostrar(desenho);
+    const auto imagem = widget.grab().toImage();
+    const auto acima = widget.transformação().map(QPointF{140, 24}).toPoint();
+    ASSERT_LT(acima.y(), widget.quadroDosEixos().top() - 2);
+    const auto vermelho = [&](int dy) { return imagem.pixelColor(acima + QPoint{0, dy}) == QColor(Qt::red); };
+    EXPECT_TRUE(vermelho(-1) || vermelho(0) || vermelho(1));
+    const int x = static_cast<int>(widget.transformação().map(QPointF{300, 0}).x());
+    for (int y = 0; y < widget.quadroDosEixos().top() - widget.fontMetrics().height() / 2 - 2; ++y)
+        EXPECT_NE(imagem.pixelColor(x, y), QColor(Qt::red));
+}
+
 TEST_F(Grafico, rótulos_fixos_ficam_no_lugar_dos_da_escala_vertical) {
     widget.setProperty("rotulosYFixos", QStringList{"10", "1000000"});
     const QRect antes = widget.quadroDosEixos();

@@ -27,8 +27,11 @@
 #include <QScrollBar>
 #include <QStyle>
 #include <QStyleOptionSlider>
+#include <QTextBlock>
 #include <QTextBrowser>
 #include <QThread>
+#include <QTimer>
+#include <QTreeView>
 
 #include <cmath>
 #include <map>
@@ -594,9 +597,60 @@ TEST(JanelaDaAjuda, todo_controle_tem_nome_para_quem_não_vê) {
     EXPECT_EQ(quantos, 6u);
 }
 
+TEST_F(TemaEscuro, os_elos_da_ajuda_se_leem_no_seu_papel_claro) {
+    JanelaDaAjuda ajuda;
+    ajuda.mostrarTópico(std::nullopt);
+    const auto& página = *ajuda.findChild<QTextBrowser*>();
+    const auto papel = página.palette().color(QPalette::Base);
+    std::size_t quantos = 0;
+    for (auto bloco = página.document()->begin(); bloco.isValid(); bloco = bloco.next())
+        for (auto parte = bloco.begin(); !parte.atEnd(); ++parte) {
+            const auto formato = parte.fragment().charFormat();
+            if (!formato.isAnchor() || !formato.hasProperty(QTextFormat::ForegroundBrush)) continue;
+            EXPECT_GE(contraste(formato.foreground().color(), papel), 4.5)
+                << parte.fragment().text().toStdString();
+            ++quantos;
+        }
+    EXPECT_GT(quantos, 5u);
+}
+
+/// Titles of the table of contents are whole in the window as it opens.
+TEST(JanelaDaAjuda, o_conteúdo_mostra_títulos_inteiros_e_cabe_na_tela) {
+    JanelaDaAjuda ajuda;
+    ajuda.mostrarTópico(std::nullopt);
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&ajuda));
+    const auto& conteúdo = *ajuda.findChild<QTreeView*>(QStringLiteral("conteudo"));
+    const QAbstractItemView& vista = conteúdo;
+    EXPECT_GE(conteúdo.viewport()->width(), vista.sizeHintForColumn(0));
+    EXPECT_LE(ajuda.frameGeometry().width(), 1366);
+    EXPECT_LE(ajuda.frameGeometry().height(), 768);
+}
+
 TEST(Paletas, uma_é_clara_e_outra_escura) {
     EXPECT_FALSE(éEscura(paletaClara()));
     EXPECT_TRUE(éEscura(paletaEscura()));
+}
+
+/// Qt's own dialog is too narrow for its columns.
+TEST(DiálogosDeArquivo, mostram_nomes_tipos_e_datas_inteiros) {
+    bool visto = false;
+    QTimer::singleShot(0, [&] {
+        auto* diálogo = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+        ASSERT_NE(diálogo, nullptr);
+        const auto& lista = *diálogo->findChild<QTreeView*>();
+        ASSERT_TRUE(QTest::qWaitFor([&] { return lista.model()->rowCount(lista.rootIndex()) > 0; }));
+        QCoreApplication::processEvents();
+        const QAbstractItemView& vista = lista;
+        for (int c = 0; c < lista.model()->columnCount(); ++c)
+            EXPECT_GE(lista.columnWidth(c), vista.sizeHintForColumn(c)) << c;
+        visto = true;
+        diálogo->reject();
+    });
+    const auto antes = QDir::currentPath();
+    QDir::setCurrent(QStringLiteral(PASTA_DE_EXEMPLOS));
+    EXPECT_EQ(dialogosDoQt().arquivoParaAbrir(QStringLiteral("Todos (*)")), std::nullopt);
+    QDir::setCurrent(antes);
+    EXPECT_TRUE(visto);
 }
 
 TEST(Tradução, os_diálogos_do_Qt_falam_português) {
