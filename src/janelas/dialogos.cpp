@@ -65,6 +65,13 @@ void preparar() {
     if (antesDeCadaDialogo) antesDeCadaDialogo();
 }
 
+/// When windows are to paint themselves next while an act works.
+struct Espera {
+    qint64 pausa = 0; // ms
+    QElapsedTimer desde = {};
+};
+Espera espera;
+
 /// Drops what the person does as long as it lives.
 class EntradasDescartadas : public QObject {
   public:
@@ -153,6 +160,11 @@ Dialogos& dialogos() {
     return emUso;
 }
 
+void começarAto() {
+    espera = {tempoDeUmaEsperaMs};
+    espera.desde.start();
+}
+
 void pintarSemOuvir() {
     const EntradasDescartadas agora;
     QCoreApplication::processEvents();
@@ -231,12 +243,12 @@ void progresso(double valor, std::string_view texto) {
 }
 
 void respirar() {
-    constexpr qint64 pausa = 50; // ms: painting takes a few of them
-    static QElapsedTimer desdeAÚltima;
-    if (desdeAÚltima.isValid() && desdeAÚltima.elapsed() < pausa) return;
+    constexpr qint64 entrePinturas = 50; // ms: painting takes a few of them
+    if (espera.desde.isValid() && espera.desde.elapsed() < espera.pausa) return;
     preparar();
     pintarSemOuvir();
-    desdeAÚltima.start();
+    espera = {entrePinturas};
+    espera.desde.start();
 }
 
 void encerrar() {
