@@ -9,6 +9,7 @@
 #include "campo/verificacoes_ec.h"
 #include "comum/ajuda.h"
 #include "comum/arquivos_de_dados.h"
+#include "comum/erro_execucao.h"
 #include "comum/numeros.h"
 #include "comum/operacoes.h"
 #include "comum/plataforma.h"
@@ -32,6 +33,10 @@ void escreverCabeçalhos(int linhas, int coletores, double espaço) {
         f.flex_A.escrever(coletores + 1 - j, 0, nomeDoColetor("Ce", j, espaço));
         f.flex_A.escrever(coletores + j, 0, nomeDoColetor("Cd", j, espaço));
     }
+}
+
+double númeroDe(const Lista& lista) {
+    return explicarErro("o número escrito na lista é grande demais", [&] { return lerPrefixo(lista.texto); });
 }
 
 /// The entry line is in sight while the grid is typed into; the lists are only free then, too.
@@ -60,7 +65,8 @@ void gerarPlanilhaEC() {
     auto& f = *formEC.operator->();
     const auto planilha = formEC_planilha();
     sairDaCélula(planilha);
-    const double linhasPedidas = lerPrefixo(f.Combo1.texto), coletoresPedidos = lerPrefixo(f.Combo3.texto);
+    const double linhasPedidas = númeroDe(f.Combo1), coletoresPedidos = númeroDe(f.Combo3);
+    const double distância = númeroDe(f.Combo2), espaço = númeroDe(f.Combo4);
     if (linhasPedidas <= 0 || coletoresPedidos <= 0) return;
     if (const auto recusa = recusaDoTamanho(2 * coletoresPedidos, linhasPedidas); !recusa.empty()) {
         plataforma::mensagem(recusa);
@@ -74,15 +80,13 @@ void gerarPlanilhaEC() {
         f.flex_A.linhaAtual = f.flex_A.colunaAtual = 1;
         entrarNaCélula(planilha);
     }
-    escreverCabeçalhos(linhas, coletores, lerPrefixo(f.Combo4.texto));
+    escreverCabeçalhos(linhas, coletores, espaço);
     nomearCélula(planilha);
     formEC_flex_A_Change();
     f.lblEspaço.texto = "eC = " + f.Combo4.texto + " m";
     f.lblDistância.texto = "eL = " + f.Combo2.texto + " m";
-    desenharEnsaioMóvel(f.Picture1, {.linhas = linhas,
-                                     .coletores = coletores,
-                                     .distância = lerPrefixo(f.Combo2.texto),
-                                     .espaço = lerPrefixo(f.Combo4.texto)});
+    desenharEnsaioMóvel(f.Picture1,
+                        {.linhas = linhas, .coletores = coletores, .distância = distância, .espaço = espaço});
 }
 
 void formEC_Load() {

@@ -3,6 +3,7 @@
 #include "campo/form_ec.h"
 #include "campo/sobreposicao_movel.h"
 #include "comum/ajuda.h"
+#include "comum/erro_execucao.h"
 #include "comum/numeros.h"
 #include "comum/operacoes.h"
 #include "comum/planilha.h"
@@ -57,7 +58,8 @@ void formUnifo_Command2_Click() {
 }
 
 void formUnifo_cmdCUC_Click() {
-    if (!espaçamentoAceito()) return;
+    if (!explicarErro("confira o espaçamento: em m, um múltiplo de seis maior que zero", espaçamentoAceito))
+        return;
     sobreporMovel();
     formUnifo->Caption = "Sobreposição para o Espaçamento: " + paraTexto(espaçamentoEscolhido()) + " m";
 }

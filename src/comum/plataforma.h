@@ -34,7 +34,7 @@ std::optional<std::string> arquivoParaSalvar(const DialogoArquivo& diálogo);
 void ajuda(std::optional<int> tópico);
 /// A long run has come further: the value of its bar and the text of its label, of which one has changed.
 void progresso(double valor, std::string_view texto);
-/// A long run is still at work, with nothing new to tell: windows may paint themselves. Called often.
+/// What may take long is still at work, with nothing new to tell: windows may paint themselves. Called often.
 void respirar();
 /// The program is to end: the main window was closed.
 void encerrar();

@@ -8,9 +8,12 @@
 #include <QElapsedTimer>
 #include <QFileDialog>
 #include <QGuiApplication>
+#include <QHeaderView>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QRegularExpression>
+#include <QSplitter>
+#include <QTreeView>
 
 #include <string>
 
@@ -28,7 +31,16 @@ QMessageBox::StandardButton mostrarCaixa(QMessageBox::Icon ícone, const QString
     return static_cast<QMessageBox::StandardButton>(caixa.exec());
 }
 
+/// Qt's own dialog opens too small for its columns and for the names of the places beside them.
+void mostrarNomesInteiros(QFileDialog& diálogo) {
+    diálogo.resize(diálogo.sizeHint().expandedTo({900, 500}));
+    if (auto* divisão = diálogo.findChild<QSplitter*>()) divisão->setSizes({140, 700});
+    if (auto* arquivos = diálogo.findChild<QTreeView*>())
+        arquivos->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+}
+
 std::optional<QString> escolherArquivo(QFileDialog& diálogo) {
+    mostrarNomesInteiros(diálogo);
     if (diálogo.exec() != QDialog::Accepted) return std::nullopt;
     return diálogo.selectedFiles().value(0);
 }
@@ -54,6 +66,13 @@ std::optional<std::string> caminho(const std::optional<QString>& escolhido) {
 void preparar() {
     if (antesDeCadaDialogo) antesDeCadaDialogo();
 }
+
+/// When windows are to paint themselves next while an act works.
+struct Espera {
+    qint64 pausa = 0; // ms
+    QElapsedTimer desde = {};
+};
+Espera espera;
 
 /// Drops what the person does as long as it lives.
 class EntradasDescartadas : public QObject {
@@ -148,6 +167,11 @@ Dialogos& dialogos() {
     return emUso;
 }
 
+void começarAto() {
+    espera = {tempoDeUmaEsperaMs};
+    espera.desde.start();
+}
+
 void pintarSemOuvir() {
     const EntradasDescartadas agora;
     QCoreApplication::processEvents();
@@ -226,12 +250,12 @@ void progresso(double valor, std::string_view texto) {
 }
 
 void respirar() {
-    constexpr qint64 pausa = 50; // ms: painting takes a few of them
-    static QElapsedTimer desdeAÚltima;
-    if (desdeAÚltima.isValid() && desdeAÚltima.elapsed() < pausa) return;
+    constexpr qint64 entrePinturas = 50; // ms: painting takes a few of them
+    if (espera.desde.isValid() && espera.desde.elapsed() < espera.pausa) return;
     preparar();
     pintarSemOuvir();
-    desdeAÚltima.start();
+    espera = {entrePinturas};
+    espera.desde.start();
 }
 
 void encerrar() {

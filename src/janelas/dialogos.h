@@ -43,6 +43,13 @@ Dialogos dialogosDoQt();
 /// Called before a box appears and while a long run comes further, so that the windows show how things stand.
 inline std::function<void()> antesDeCadaDialogo;
 
+/// An act that takes longer than this, in ms, may have been clicked at more than once. Windows paint
+/// themselves while it works, from then on.
+inline int tempoDeUmaEsperaMs = 300;
+
+/// A person's act begins.
+void começarAto();
+
 /// Lets the windows paint themselves, and drops what the person did up to now: nothing else can be started
 /// while a long run or a roteiro is at work, nor once it is over by a click that waited.
 void pintarSemOuvir();

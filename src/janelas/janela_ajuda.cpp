@@ -32,6 +32,9 @@
 namespace {
 
 constexpr int arquivoDoItem = Qt::UserRole;
+// A page's lines are neither too long to be read nor broken at every few words.
+constexpr int larguraDaPágina = 720;
+constexpr int barraEBordas = 36;
 
 // Points. Small print is two sizes below the page's own letter, and must have one left.
 constexpr int menorLetra = 5;
@@ -146,10 +149,14 @@ JanelaDaAjuda::JanelaDaAjuda()
     setWindowTitle(QStringLiteral("Ajuda do Varenta"));
     página_->setObjectName(QStringLiteral("pagina"));
     página_->setAccessibleName(QStringLiteral("Página da ajuda"));
-    // Its figures are made for light paper.
-    página_->setPalette(paletaClara());
+    // Its figures are made for light paper. Links take their colour from the program's palette, not from the
+    // page's.
+    const auto claras = paletaClara();
+    página_->setPalette(claras);
     página_->setSearchPaths({QString::fromLatin1(pastaDaAjuda)});
-    página_->document()->setDefaultStyleSheet(lerRecurso(QStringLiteral("estilo.css")));
+    página_->document()->setDefaultStyleSheet(
+        lerRecurso(QStringLiteral("estilo.css")) +
+        QStringLiteral("a { color: %1; }").arg(claras.color(QPalette::Link).name()));
     connect(página_, &QTextBrowser::sourceChanged, this,
             [this](const QUrl& url) { marcarNoConteúdo(url.fileName()); });
 
@@ -165,12 +172,14 @@ JanelaDaAjuda::JanelaDaAjuda()
     divisão->addWidget(abas_);
     divisão->addWidget(página_);
     divisão->setStretchFactor(1, 1);
-    divisão->setSizes({300, 700});
+    const QAbstractItemView& árvore = *conteúdo_;
+    const int doConteúdo = árvore.sizeHintForColumn(0) + barraEBordas;
+    divisão->setSizes({doConteúdo, larguraDaPágina});
 
     auto* pilha = new QVBoxLayout{this};
     pilha->addWidget(criarBarra());
     pilha->addWidget(divisão, 1);
-    resize(1000, 680);
+    resize(doConteúdo + larguraDaPágina, 680);
     connect(new QShortcut{QKeySequence{Qt::Key_Escape}, this}, &QShortcut::activated, this, &QWidget::hide);
 }
 

@@ -28,9 +28,6 @@ class Enquanto {
 // A window manager moves a window by the width of its frame; what a person moves goes further.
 constexpr int folgaDaMoldura = 48;
 
-// An act that took longer than this may have been clicked at more than once.
-constexpr int tempoDeUmaEsperaMs = 300;
-
 } // namespace
 
 QRect lugarNaTela(QSize tamanho, QPoint meio) {
@@ -63,6 +60,7 @@ void Janelas::agir(const std::function<void()>& ato) {
     if (agindo_ || atualizando_) return;
     QElapsedTimer relógio;
     relógio.start();
+    varenta::começarAto();
     {
         const Enquanto agora{agindo_};
         try {
@@ -72,7 +70,7 @@ void Janelas::agir(const std::function<void()>& ato) {
         }
     }
     atualizar();
-    if (relógio.elapsed() > tempoDeUmaEsperaMs) varenta::pintarSemOuvir();
+    if (relógio.elapsed() > varenta::tempoDeUmaEsperaMs) varenta::pintarSemOuvir();
 }
 
 void Janelas::atualizar() {

@@ -24,6 +24,13 @@ TextoDigitado::TextoDigitado(QLineEdit& caixa) : QObject{&caixa}, caixa_{caixa} 
     });
 }
 
+bool TextoDigitado::éDeNúmero() const { return !caixa_.property("textoLivre").toBool(); }
+
+QString TextoDigitado::corrigido(const QString& texto) const {
+    const auto linha = emUmaLinha(texto);
+    return éDeNúmero() ? QString::fromStdString(varenta::comPonto(linha.toStdString())) : linha;
+}
+
 QString TextoDigitado::comoFoiDigitado(QString texto) const {
     if (vírgula_ < 0) return texto;
     const auto mudança = std::ranges::mismatch(mostrado_, texto).in1 - mostrado_.cbegin();
@@ -33,18 +40,37 @@ QString TextoDigitado::comoFoiDigitado(QString texto) const {
 }
 
 void TextoDigitado::receber(const QString& texto) {
+    if (escrevendo_) return;
+    // Only after an undo or a redo is there something to redo. They pass over a text that was corrected at
+    // once.
+    if (caixa_.isRedoAvailable() && corrigido(texto) != texto)
+        return corrigido(texto) == mostrado_ ? caixa_.undo() : caixa_.redo();
     auto novo = emUmaLinha(texto);
-    if (!caixa_.property("textoLivre").toBool()) {
+    if (éDeNúmero() && !caixa_.isRedoAvailable()) {
         // A second comma or point leaves all of them as they were typed: only the person knows what it means.
         const auto digitado = comoFoiDigitado(novo);
-        novo = QString::fromStdString(varenta::comPonto(digitado.toStdString()));
+        novo = corrigido(digitado);
         vírgula_ = novo == digitado ? -1 : novo.indexOf(QLatin1Char{'.'});
+    } else {
+        vírgula_ = -1;
     }
     mostrado_ = novo;
-    if (caixa_.text() != novo) {
-        const int cursor = caixa_.cursorPosition();
-        caixa_.setText(novo);
-        caixa_.setCursorPosition(cursor);
-    }
+    if (caixa_.text() != novo) escrever(novo);
     emit mudou(novo);
+}
+
+void TextoDigitado::escrever(const QString& novo) {
+    const auto antes = caixa_.text();
+    const auto cursor = std::min(static_cast<qsizetype>(caixa_.cursorPosition()), novo.size());
+    const auto início = std::ranges::mismatch(antes, novo).in1 - antes.cbegin();
+    const auto sobra = std::min(antes.size(), novo.size()) - início;
+    qsizetype fim = 0;
+    while (fim < sobra && antes[antes.size() - 1 - fim] == novo[novo.size() - 1 - fim]) ++fim;
+    escrevendo_ = true;
+    caixa_.setSelection(static_cast<int>(início), static_cast<int>(antes.size() - início - fim));
+    caixa_.insert(novo.mid(início, novo.size() - início - fim));
+    escrevendo_ = false;
+    // A moved cursor ends the step of undoing, so that undoing stops at the corrected text.
+    caixa_.setCursorPosition(0);
+    caixa_.setCursorPosition(static_cast<int>(cursor));
 }

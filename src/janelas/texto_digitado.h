@@ -17,6 +17,11 @@ class TextoDigitado : public QObject {
 
   private:
     void receber(const QString& texto);
+    /// Makes the box show the text by an edit that can be undone, as setting it could not.
+    void escrever(const QString& novo);
+    bool éDeNúmero() const;
+    /// A text as the box is to show it.
+    QString corrigido(const QString& texto) const;
     /// With a comma in the place where one of the text before became a point.
     QString comoFoiDigitado(QString texto) const;
 
@@ -24,4 +29,5 @@ class TextoDigitado : public QObject {
     /// What the box showed last, and where in it a comma became a point; -1 for nowhere.
     QString mostrado_;
     qsizetype vírgula_ = -1;
+    bool escrevendo_ = false;
 };

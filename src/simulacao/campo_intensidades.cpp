@@ -3,6 +3,7 @@
 #include "comum/erro_execucao.h"
 #include "comum/limites.h"
 #include "comum/numeros.h"
+#include "comum/plataforma.h"
 #include "simulacao/lote.h"
 
 #include <algorithm>
@@ -26,6 +27,7 @@ CampoDeIntensidades calcularCampo(const DadosDaSimulação& dados, std::size_t l
     for (std::size_t i = 0; i < lado; ++i) y[i] = campo.y(i);
     const std::size_t porLote = std::max<std::size_t>(1, pontosDoLote / lado);
     for (std::size_t primeira = 0; primeira < lado; primeira += porLote) {
+        plataforma::respirar();
         const std::size_t quantas = std::min(porLote, lado - primeira);
         X.clear();
         Y.clear();

@@ -84,7 +84,7 @@ const char* recusaDosComprimentos(double R) {
     for (const auto& extremo : {extremoInicial(), extremoFinal()}) {
         if (modoDo(extremo) != ModoDoExtremo::outroValor) continue;
         const auto& texto = extremo.comprimento.texto;
-        if (texto.empty()) return "Valor Inválido!";
+        if (nãoÉNumérico(texto)) return "Valor Inválido!";
         const double comprimento = lerPrefixo(texto);
         if (comprimento < 0 || comprimento > R) return "Valor deve estar: entre zero e o raio de alcance!";
     }

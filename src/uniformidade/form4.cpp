@@ -1,6 +1,7 @@
 #include "uniformidade/form4.h"
 
 #include "comum/ajuda.h"
+#include "comum/erro_execucao.h"
 #include "comum/numeros.h"
 #include "comum/operacoes.h"
 #include "comum/plataforma.h"
@@ -29,6 +30,17 @@ bool espaçamentoAceito() {
     return false;
 }
 
+/// Makes room for the overlap at the spacing of the list, if it is accepted.
+bool prepararDetalhe() {
+    if (!espaçamentoAceito()) return false;
+    auto& grade = form4->flexGrid_B;
+    for (int c = 0; c < grade.colunas && grade.linhas > 1; ++c) grade.escrever(1, c, "");
+    const int n =
+        posiçõesEntreCarreadores(lerPrefixo(form4->cmbEspaçamento.texto), espaçamentoDosColetores());
+    grade.dimensionar(n + 1, 4);
+    return true;
+}
+
 } // namespace
 
 void form4_Load() { associarAjuda(); }
@@ -53,12 +65,8 @@ void form4_Command8_Click() {
 }
 
 void form4_Command9_Click() {
-    if (!espaçamentoAceito()) return;
-    auto& grade = form4->flexGrid_B;
-    for (int c = 0; c < grade.colunas && grade.linhas > 1; ++c) grade.escrever(1, c, "");
-    const int n =
-        posiçõesEntreCarreadores(lerPrefixo(form4->cmbEspaçamento.texto), espaçamentoDosColetores());
-    grade.dimensionar(n + 1, 4);
+    if (!explicarErro("confira o espaçamento: em m, um múltiplo de seis maior que zero", prepararDetalhe))
+        return;
     sobreporEspacamento();
     form4->Command5.habilitado = true;
     form4->Command10.habilitado = true;

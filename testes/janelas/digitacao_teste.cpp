@@ -112,6 +112,39 @@ TEST_F(Digitação, o_que_se_cola_perde_a_vírgula_e_o_fim_de_linha_da_planilha)
     EXPECT_EQ(form7->Text1.texto, "1 2 3");
 }
 
+TEST_F(Digitação, desfazer_e_refazer_passam_pela_vírgula) {
+    const auto textos = [&](QKeySequence::StandardKey qual) {
+        QStringList vistos;
+        while (qual == QKeySequence::Undo ? caixa->isUndoAvailable() : caixa->isRedoAvailable()) {
+            QTest::keySequence(caixa, QKeySequence{qual});
+            EXPECT_EQ(form7->Text1.texto, caixa->text().toStdString());
+            vistos << caixa->text();
+            if (vistos.size() > 9) break;
+        }
+        return vistos;
+    };
+    digitar("62,5");
+    EXPECT_EQ(textos(QKeySequence::Undo), (QStringList{"62.", "50"}));
+    EXPECT_EQ(textos(QKeySequence::Redo), (QStringList{"62.", "62.5"}));
+    EXPECT_EQ(textos(QKeySequence::Undo), (QStringList{"62.", "50"}));
+    caixa->selectAll();
+    colar("7,25\r\n");
+    digitar("9");
+    EXPECT_EQ(textos(QKeySequence::Undo), (QStringList{"7.25", "50"}));
+    EXPECT_EQ(textos(QKeySequence::Redo), (QStringList{"7.25", "7.259"}));
+}
+
+TEST_F(Digitação, desfazer_vai_além_do_segundo_sinal) {
+    digitar("1,5");
+    digitar(".");
+    ASSERT_EQ(form7->Text1.texto, "1,5.");
+    for (int k = 0; k < 9 && caixa->isUndoAvailable(); ++k)
+        QTest::keySequence(caixa, QKeySequence{QKeySequence::Undo});
+    EXPECT_FALSE(caixa->isUndoAvailable());
+    EXPECT_EQ(form7->Text1.texto, "50");
+    EXPECT_EQ(caixa->text(), "50");
+}
+
 TEST_F(Digitação, a_verificação_recusa_o_que_ficou_com_vírgula_e_ponto) {
     digitar("1.234,5");
     clicar(form7, "Command2");

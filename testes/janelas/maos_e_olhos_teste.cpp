@@ -27,8 +27,11 @@
 #include <QScrollBar>
 #include <QStyle>
 #include <QStyleOptionSlider>
+#include <QTextBlock>
 #include <QTextBrowser>
 #include <QThread>
+#include <QTimer>
+#include <QTreeView>
 
 #include <cmath>
 #include <map>
@@ -624,9 +627,60 @@ TEST(JanelaDaAjuda, todo_controle_tem_nome_para_quem_não_vê) {
     EXPECT_EQ(quantos, 6u);
 }
 
+TEST_F(TemaEscuro, os_elos_da_ajuda_se_leem_no_seu_papel_claro) {
+    JanelaDaAjuda ajuda;
+    ajuda.mostrarTópico(std::nullopt);
+    const auto& página = *ajuda.findChild<QTextBrowser*>();
+    const auto papel = página.palette().color(QPalette::Base);
+    std::size_t quantos = 0;
+    for (auto bloco = página.document()->begin(); bloco.isValid(); bloco = bloco.next())
+        for (auto parte = bloco.begin(); !parte.atEnd(); ++parte) {
+            const auto formato = parte.fragment().charFormat();
+            if (!formato.isAnchor() || !formato.hasProperty(QTextFormat::ForegroundBrush)) continue;
+            EXPECT_GE(contraste(formato.foreground().color(), papel), 4.5)
+                << parte.fragment().text().toStdString();
+            ++quantos;
+        }
+    EXPECT_GT(quantos, 5u);
+}
+
+/// Titles of the table of contents are whole in the window as it opens.
+TEST(JanelaDaAjuda, o_conteúdo_mostra_títulos_inteiros_e_cabe_na_tela) {
+    JanelaDaAjuda ajuda;
+    ajuda.mostrarTópico(std::nullopt);
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&ajuda));
+    const auto& conteúdo = *ajuda.findChild<QTreeView*>(QStringLiteral("conteudo"));
+    const QAbstractItemView& vista = conteúdo;
+    EXPECT_GE(conteúdo.viewport()->width(), vista.sizeHintForColumn(0));
+    EXPECT_LE(ajuda.frameGeometry().width(), 1366);
+    EXPECT_LE(ajuda.frameGeometry().height(), 768);
+}
+
 TEST(Paletas, uma_é_clara_e_outra_escura) {
     EXPECT_FALSE(éEscura(paletaClara()));
     EXPECT_TRUE(éEscura(paletaEscura()));
+}
+
+/// Qt's own dialog is too narrow for its columns.
+TEST(DiálogosDeArquivo, mostram_nomes_tipos_e_datas_inteiros) {
+    bool visto = false;
+    QTimer::singleShot(0, [&] {
+        auto* diálogo = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+        ASSERT_NE(diálogo, nullptr);
+        const auto& lista = *diálogo->findChild<QTreeView*>();
+        ASSERT_TRUE(QTest::qWaitFor([&] { return lista.model()->rowCount(lista.rootIndex()) > 0; }));
+        QCoreApplication::processEvents();
+        const QAbstractItemView& vista = lista;
+        for (int c = 0; c < lista.model()->columnCount(); ++c)
+            EXPECT_GE(lista.columnWidth(c), vista.sizeHintForColumn(c)) << c;
+        visto = true;
+        diálogo->reject();
+    });
+    const auto antes = QDir::currentPath();
+    QDir::setCurrent(QStringLiteral(PASTA_DE_EXEMPLOS));
+    EXPECT_EQ(dialogosDoQt().arquivoParaAbrir(QStringLiteral("Todos (*)")), std::nullopt);
+    QDir::setCurrent(antes);
+    EXPECT_TRUE(visto);
 }
 
 TEST(Tradução, os_diálogos_do_Qt_falam_português) {
@@ -639,6 +693,17 @@ TEST(Tradução, os_diálogos_do_Qt_falam_português) {
     EXPECT_EQ(diálogo.labelText(QFileDialog::LookIn).remove(QLatin1Char{'&'}), "Procurar em:");
     EXPECT_EQ(diálogo.labelText(QFileDialog::FileType).remove(QLatin1Char{'&'}), "Arquivos do tipo:");
 }
+
+/// Counts how often a widget paints itself while the pointer is an hourglass.
+class PinturasNaAmpulheta : public QObject {
+  public:
+    explicit PinturasNaAmpulheta(QWidget& widget) { widget.installEventFilter(this); }
+    bool eventFilter(QObject*, QEvent* evento) override {
+        quantas += evento->type() == QEvent::Paint && QGuiApplication::overrideCursor();
+        return false;
+    }
+    int quantas = 0;
+};
 
 /// Clicks that wait in the queue, as the system's own do while the program is busy.
 class CliquesNaFila : public MãosEOlhos {
@@ -677,6 +742,85 @@ TEST_F(CliquesNaFila, durante_um_cálculo_demorado_não_esperam_sua_vez) {
 TEST_F(CliquesNaFila, logo_depois_de_um_cálculo_curto_valem) {
     clicarEnquantoEspera(0);
     EXPECT_EQ(ajudas.size(), 1u);
+}
+
+/// Every act that calculates: a button and its screen, with the road that leads there walked already.
+class CálculosDemorados : public CliquesNaFila {
+  protected:
+    struct Cálculo {
+        TelaBase& tela;
+        const char* botão;
+    };
+
+    void SetUp() override {
+        CliquesNaFila::SetUp();
+        formEC->Command4.visivel = formEC->Command6.visivel = true;
+        tempoDeUmaEsperaMs = -1; // every act takes longer
+    }
+    void TearDown() override {
+        tempoDeUmaEsperaMs = esperaUsual_;
+        CliquesNaFila::TearDown();
+    }
+
+    static std::vector<Cálculo> cálculos() {
+        return {{form7, "Command2"},  {form7, "Command3"},   {form4, "Command9"},     {form5, "Command10"},
+                {form5, "Command12"}, {form5, "Command15"},  {formEC, "Command6"},    {formEC, "Command4"},
+                {perfil, "Command6"}, {formUnifo, "cmdCUC"}, {form_AjVen, "Command8"}};
+    }
+
+  private:
+    int esperaUsual_ = tempoDeUmaEsperaMs;
+};
+
+TEST_F(CálculosDemorados, não_deixam_nada_na_fila_nem_fechar_a_janela) {
+    for (const auto& [tela, botão] : cálculos()) {
+        auto& janelaDaTela = mostrarSó(tela);
+        ajudas.clear();
+        ASSERT_TRUE(widget<QPushButton>(tela, botão).isEnabled()) << tela.nome() << '.' << botão;
+        for (auto* alvo : janelaDaTela.findChildren<QPushButton*>()) clicarDepois(*alvo);
+        QCoreApplication::postEvent(&janelaDaTela, new QCloseEvent);
+        QCoreApplication::postEvent(&janelaDaTela, new QKeyEvent{QEvent::KeyPress, Qt::Key_Escape, {}});
+        const auto antes = caixas.size();
+        clicar(tela, botão);
+        const auto depois = caixas.size();
+        const bool visível = tela.visivel;
+        QCoreApplication::processEvents();
+        EXPECT_EQ(caixas.size(), depois) << tela.nome() << '.' << botão;
+        EXPECT_LE(depois, antes + 1) << tela.nome() << '.' << botão;
+        EXPECT_TRUE(ajudas.empty()) << tela.nome() << '.' << botão;
+        EXPECT_TRUE(tela.carregada()) << tela.nome() << '.' << botão;
+        EXPECT_EQ(tela.visivel, visível) << tela.nome() << '.' << botão;
+    }
+}
+
+/// While the field of a profile is worked out, with the hourglass on.
+TEST_F(CálculosDemorados, pintam_a_janela_e_recusam_cliques_e_teclas_enquanto_trabalham) {
+    tempoDeUmaEsperaMs = 0;
+    auto& janelaDaTela = mostrarSó(form7);
+    apagarEDigitar(form7, "Combo2", QStringLiteral("3.0"));
+    const auto velocidade = form7->Text1.texto;
+    int tentativas = 0;
+    QTimer relógio;
+    QObject::connect(&relógio, &QTimer::timeout, [&] {
+        if (!QGuiApplication::overrideCursor()) return;
+        ++tentativas;
+        EXPECT_EQ(form7.ponteiro, Ponteiro::ampulheta);
+        clicar(form7, "Command5");
+        clicar(form7, "cmdSair");
+        QTest::keyClicks(&widget<QLineEdit>(form7, "Text1"), QStringLiteral("7"));
+        janelaDaTela.close();
+        janelaDaTela.update();
+    });
+    relógio.start(0);
+    PinturasNaAmpulheta pinturas{janelaDaTela};
+    clicar(form7, "Command2");
+    relógio.stop();
+    EXPECT_GT(tentativas, 0);
+    EXPECT_GT(pinturas.quantas, 0);
+    EXPECT_TRUE(ajudas.empty());
+    EXPECT_TRUE(form7.carregada() && form7.visivel);
+    EXPECT_EQ(form7->Text1.texto, velocidade);
+    EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
 }
 
 /// A button of the mouse that went down before the calculation must not stay down after it.

@@ -184,7 +184,9 @@ TEST_F(UniformidadeNoCentro, EspaçamentoEnormeÉRecusadoSemPedirAMemória) {
     const int linhas = form4->flexGrid_B.linhas;
     digitar("600000000");
     clicar("Command9");
-    EXPECT_EQ(caderno, Textos{"erro: Memória insuficiente"});
+    EXPECT_EQ(caderno,
+              Textos{"erro: Memória insuficiente: confira o espaçamento: em m, um múltiplo de seis maior "
+                     "que zero"});
     EXPECT_EQ(form4->flexGrid_B.linhas, linhas);
     EXPECT_FALSE(form4->Command5.habilitado);
 }
