@@ -397,14 +397,22 @@ class Oficina:
             processo = subprocess.Popen(comando, cwd=BASE, stdin=subprocess.DEVNULL, stdout=saida,
                                         stderr=subprocess.STDOUT, start_new_session=True,
                                         env=dict(os.environ, CCACHE_DISABLE="1", **ambiente))
-            alarme = threading.Timer(prazo, os.killpg, (processo.pid, signal.SIGKILL))
-            alarme.start()
+            acabou, esgotou = threading.Event(), threading.Event()
+
+            def vigiar():
+                # Counted second by second: while all this is suspended, no time passes.
+                if not any(acabou.wait(1) for _ in range(prazo)):
+                    esgotou.set()
+                    os.killpg(processo.pid, signal.SIGKILL)
+
+            vigia = threading.Thread(target=vigiar)
+            vigia.start()
             _, estado, uso = os.wait4(processo.pid, 0)
-            esgotado = not alarme.is_alive()
-            alarme.cancel()
+            acabou.set()
+            vigia.join()
             processo.returncode = os.waitstatus_to_exitcode(estado)
             self.segundos += uso.ru_utime + uso.ru_stime
-            if esgotado:
+            if esgotou.is_set():
                 raise subprocess.TimeoutExpired(comando, prazo)
             saida.seek(0)
             return processo.returncode, saida.read()
