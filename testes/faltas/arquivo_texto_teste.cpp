@@ -157,6 +157,16 @@ int emOutroProcesso(const Ação& ação) {
     return WIFEXITED(estado) ? WEXITSTATUS(estado) : -1;
 }
 
+TEST(LerTextoComFalhas, SemEntradaPadrãoOArquivoAbertoÉOZeroEVale) {
+    const PastaTemporaria pasta;
+    const auto caminho = pasta.gravar("a.txt", "lido");
+    EXPECT_EQ(emOutroProcesso([&] {
+                  ::close(STDIN_FILENO);
+                  return lerTexto(caminho) == "lido" ? 0 : 1;
+              }),
+              0);
+}
+
 TEST(GravarTextoComFalhas, UmaPastaSóDeLeituraFicaComoEstá) {
     const PastaTemporaria pasta;
     const auto caminho = pasta.gravar("a.txt", "velho");
