@@ -33,3 +33,4 @@ pacotes_de_construcao=(g++ cmake ninja-build qt6-base-dev qt6-svg-dev libgl-dev 
     fonts-dejavu-core)
 pacotes_de_teste=(libgtest-dev clang-format locales groff-base desktop-file-utils appstream
     shared-mime-info)
+pacotes_longos=(gcovr)

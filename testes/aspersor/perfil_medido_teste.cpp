@@ -35,6 +35,8 @@ TEST(FecharPerfil, UmaLinhaQueCaiAbaixoDeZeroDáODobroDaPrimeiraLeitura) {
 TEST(FecharPerfil, UmaLinhaAcimaDoDobroDoPicoDáOPico) {
     // From (4, 8) to (5, 2) the line starts at 32, above twice 8.
     EXPECT_EQ(fecharPerfil(Pontos{{4, 8}, {5, 2}, {6, 1}}).pontos.front().i, 8);
+    // From (4, 8) to (6, 4) it starts at 16, which is not above.
+    EXPECT_EQ(fecharPerfil(Pontos{{4, 8}, {6, 4}, {8, 1}}).pontos.front().i, 16);
     // From (4, 8) to (8, 0.5) it starts at 15.5, below.
     EXPECT_EQ(fecharPerfil(Pontos{{4, 8}, {8, 0.5}, {9, 0.25}}).pontos.front().i, 15.5);
 }

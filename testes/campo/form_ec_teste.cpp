@@ -464,6 +464,18 @@ TEST_F(ArquivoDoEnsaioDeCampo, EmMmTem14LinhasEAsLeiturasSemFimDeLinha) {
     EXPECT_EQ(caderno, std::vector<std::string>{"salvar: Text files|*.TXT|All files|*.* TXT"});
 }
 
+TEST_F(ArquivoDoEnsaioDeCampo, UmaLinhaDeLeiturasRecusadaDeixaAsDeAntesDelaENadaDasAnteriores) {
+    abrir(semLeituras + "2\r\n6.0\r\n2\r\n6.0\r\n2.5\r\n90\r\n1\r\n9\t9.5\r\n8\tx\r\n7\t7\r\n6\t6");
+    const auto& grade = formEC->flex_A;
+    ASSERT_EQ(grade.linhas, 5);
+    ASSERT_EQ(grade.colunas, 3);
+    EXPECT_EQ(grade.célula(1, 1), "9.000");
+    EXPECT_EQ(grade.célula(1, 2), "9.500");
+    EXPECT_EQ(grade.célula(2, 1), "8.000");
+    for (const auto& [l, c] : {std::pair{2, 2}, {3, 1}, {3, 2}, {4, 1}, {4, 2}})
+        EXPECT_EQ(grade.célula(l, c), "") << l << " " << c;
+}
+
 TEST_F(ArquivoDoEnsaioDeCampo, EmMlTemODiâmetroEOQueEstáVazioÉNãoEspecificado) {
     clicar(formEC, "Option3");
     digitar(formEC, "Text7", "8");

@@ -11,6 +11,7 @@
 #include <csignal>
 #include <random>
 #include <thread>
+#include <utility>
 
 #include <fcntl.h>
 #include <sys/file.h>
@@ -87,6 +88,65 @@ TEST(LerTextoComFalhas, CadaChamadaQueFalhaÉDita) {
     EXPECT_EQ(falhas, (std::set<std::string>{"open", "fstat", "read", "close"}));
 }
 
+TEST(LerTextoComFalhas, CadaErroDoSistemaÉDitoEmPortuguês) {
+    const PastaTemporaria pasta;
+    const auto caminho = pasta.gravar("a.txt", "lido");
+    const std::pair<int, const char*> motivos[] = {{ENOENT, "o arquivo ou a pasta não existe"},
+                                                   {EACCES, "permissão negada"},
+                                                   {EPERM, "permissão negada"},
+                                                   {EISDIR, "é uma pasta, e não um arquivo"},
+                                                   {ENOTDIR, "uma parte do caminho não é uma pasta"},
+                                                   {ELOOP, "ligações em círculo"},
+                                                   {ENAMETOOLONG, "o nome do arquivo é longo demais"},
+                                                   {ENOSPC, "não há espaço no disco"},
+                                                   {EDQUOT, "não há espaço no disco"},
+                                                   {EFBIG, "o arquivo é grande demais"},
+                                                   {EROFS, "o disco só admite leitura"},
+                                                   {EIO, "falha do disco"},
+                                                   {EINVAL, "não é um arquivo de texto"}};
+    for (const auto& [erro, motivo] : motivos) {
+        const FalhaDaChamada falha{"read", erro};
+        EXPECT_EQ(erroDe([&] { lerTexto(caminho); }), motivo);
+    }
+    const FalhaDaChamada falha{"read", ENOMEM};
+    EXPECT_EQ(erroDe([&] { lerTexto(caminho); }), "erro " + std::to_string(ENOMEM) + " do sistema");
+}
+
+TEST(LerTextoComFalhas, UmaLeituraInterrompidaRecomeça) {
+    const PastaTemporaria pasta;
+    const auto caminho = pasta.gravar("a.txt", "lido");
+    const FalhaDaChamada falha{3, EINTR};
+    EXPECT_EQ(lerTexto(caminho), "lido");
+    EXPECT_EQ(falha.qualFalhou(), "read");
+}
+
+TEST(GravarTextoComFalhas, UmaEscritaInterrompidaContinuaDeOndeEstava) {
+    std::string novo;
+    for (int n = 0; n < 1000; ++n) novo += std::to_string(n) + '\n';
+    std::string qual;
+    for (int n = 1; qual != "write"; ++n) {
+        const PastaTemporaria pasta;
+        const FalhaDaChamada falha{n, EINTR};
+        const auto dito = erroDe([&] { gravarTexto(pasta.caminho("a.txt"), novo); });
+        qual = falha.qualFalhou();
+        ASSERT_NE(qual, "");
+        if (qual != "write") continue;
+        EXPECT_EQ(dito, "");
+        EXPECT_EQ(pasta.bytes("a.txt"), novo);
+    }
+}
+
+TEST(GravarTextoComFalhas, QuandoNenhumNomeEstáLivreOVelhoFica) {
+    const PastaTemporaria pasta;
+    const auto caminho = pasta.gravar("a.txt", "velho");
+    const FalhaDaChamada falha{"linkat", EEXIST};
+    EXPECT_EQ(erroDe([&] { gravarTexto(caminho, "novo"); }),
+              "erro " + std::to_string(EEXIST) + " do sistema");
+    EXPECT_EQ(falha.qualFalhou(), "linkat");
+    EXPECT_EQ(pasta.bytes("a.txt"), "velho");
+    EXPECT_EQ(pasta.nomes(), std::set<std::string>{"a.txt"});
+}
+
 /// Runs `ação` in a process of its own and returns what it exits with.
 template <class Ação>
 int emOutroProcesso(const Ação& ação) {
@@ -95,6 +155,16 @@ int emOutroProcesso(const Ação& ação) {
     int estado = 0;
     ::waitpid(filho, &estado, 0);
     return WIFEXITED(estado) ? WEXITSTATUS(estado) : -1;
+}
+
+TEST(LerTextoComFalhas, SemEntradaPadrãoOArquivoAbertoÉOZeroEVale) {
+    const PastaTemporaria pasta;
+    const auto caminho = pasta.gravar("a.txt", "lido");
+    EXPECT_EQ(emOutroProcesso([&] {
+                  ::close(STDIN_FILENO);
+                  return lerTexto(caminho) == "lido" ? 0 : 1;
+              }),
+              0);
 }
 
 TEST(GravarTextoComFalhas, UmaPastaSóDeLeituraFicaComoEstá) {

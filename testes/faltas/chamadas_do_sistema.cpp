@@ -2,6 +2,7 @@
 
 #include <cerrno>
 #include <cstdarg>
+#include <string_view>
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -12,11 +13,12 @@ namespace {
 
 int faltam = 0; // calls until the one that fails; 0 where none is to fail
 int número = 0;
+std::string_view sempre; // the call that always fails; empty where none does
 const char* falhou = nullptr;
 
 /// Whether the call `nome` is the one to fail; errno is set then.
 bool deveFalhar(const char* nome) {
-    if (faltam == 0 || --faltam > 0) return false;
+    if (nome != sempre && (faltam == 0 || --faltam > 0)) return false;
     falhou = nome;
     errno = número;
     return true;
@@ -30,7 +32,16 @@ FalhaDaChamada::FalhaDaChamada(int n, int erro) {
     falhou = nullptr;
 }
 
-FalhaDaChamada::~FalhaDaChamada() { faltam = 0; }
+FalhaDaChamada::FalhaDaChamada(const char* nome, int erro) {
+    sempre = nome;
+    número = erro;
+    falhou = nullptr;
+}
+
+FalhaDaChamada::~FalhaDaChamada() {
+    faltam = 0;
+    sempre = {};
+}
 
 std::string FalhaDaChamada::qualFalhou() const { return falhou ? falhou : ""; }
 

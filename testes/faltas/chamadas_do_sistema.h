@@ -10,6 +10,8 @@ namespace varenta::teste {
 class FalhaDaChamada {
   public:
     FalhaDaChamada(int n, int erro);
+    /// Every call of that name fails.
+    FalhaDaChamada(const char* nome, int erro);
     FalhaDaChamada(const FalhaDaChamada&) = delete;
     FalhaDaChamada& operator=(const FalhaDaChamada&) = delete;
     ~FalhaDaChamada();
