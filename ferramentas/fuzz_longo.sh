@@ -14,7 +14,7 @@ esac
 ensaios=(radial campo malha movel parametros roteiro prefixo estrito)
 
 cmake -S . -B build/fuzz -G Ninja -DCMAKE_CXX_COMPILER=clang++ -DCMAKE_BUILD_TYPE=Debug \
-    -DCMAKE_CXX_FLAGS_DEBUG="-O1 -D_GLIBCXX_ASSERTIONS" -DVARENTA_FUZZ=ON -DVARENTA_TESTES=OFF -DVARENTA_JANELAS=OFF >/dev/null
+    -DCMAKE_CXX_FLAGS_DEBUG=-O1 -DVARENTA_FUZZ=ON -DVARENTA_TESTES=OFF -DVARENTA_JANELAS=OFF >/dev/null
 cmake --build build/fuzz
 mkdir -p build/fuzz/achados
 

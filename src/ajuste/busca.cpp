@@ -43,7 +43,7 @@ struct Vértice {
 
     Parametros p;
     /// Places it among the others. It may be another point's: see `novoVértice`.
-    double soma;
+    double soma = 0;
     /// What `p` itself is worth, where that is known.
     std::optional<Avaliação> valor;
 };

@@ -99,7 +99,7 @@ constexpr auto velocidadeInválida = "Valor de velocidade do aspersor inválido"
 constexpr auto giroInválido = "Valor de ângulo de giro do aspersor inválido";
 
 Recusa recusaDaVelocidade(CaixaTexto& caixa, int n) {
-    if (const auto recusa = recusaSeNãoNumérico(caixa, velocidadeInválida, n)) return recusa;
+    if (auto recusa = recusaSeNãoNumérico(caixa, velocidadeInválida, n)) return recusa;
     const double v = lerEstrito(caixa.texto);
     if (v > 0 && v <= 200) return std::nullopt;
     return RecusaDeEnsaio{
@@ -132,17 +132,17 @@ void irParaRecusada(const TelaDeEnsaio& ensaio, const CélulaDoEnsaio& célula) 
 
 Recusa recusaDoAjuste(RegistroFormE& f, int n) {
     if (f.Option4.marcada || f.Option3.marcada)
-        if (const auto recusa = recusaSeNãoNumérico(f.Text6, "Valor de tempo inválido", n)) return recusa;
+        if (auto recusa = recusaSeNãoNumérico(f.Text6, "Valor de tempo inválido", n)) return recusa;
     if (f.Option3.marcada)
-        if (const auto recusa = recusaSeNãoNumérico(f.Text7, diâmetroInválido, n)) return recusa;
-    if (const auto recusa = recusaDasEstimativas(f, n)) return recusa;
+        if (auto recusa = recusaSeNãoNumérico(f.Text7, diâmetroInválido, n)) return recusa;
+    if (auto recusa = recusaDasEstimativas(f, n)) return recusa;
     const int N = inteiroDaLista(f.Combo2);
     return recusaDasCélulas(f.flex_A, N, N, aoAjustar(n));
 }
 
 Recusa recusaDoAjuste(RegistroFormMiE& f, int n) {
     if (f.Option3.marcada)
-        if (const auto recusa = recusaSeNãoNumérico(f.Text7, diâmetroInválido, n)) return recusa;
+        if (auto recusa = recusaSeNãoNumérico(f.Text7, diâmetroInválido, n)) return recusa;
     auto recusa = recusaDasLinhasEDosColetores(f, n);
     if (!recusa) recusa = recusaDoEspaçoEntreColetores(f, n);
     if (!recusa)

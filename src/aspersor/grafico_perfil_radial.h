@@ -51,7 +51,7 @@ struct CurvaRelativa {
 
 /// Draws the smooth curve through the 22 points, with its axes. Raises "Divisão por zero" or "Estouro" where
 /// a tick step reads 0.
-void desenharPerfilRadial(const GráficoDoPerfilRadial& gráfico, const CurvaRelativa& curva);
+void desenharPerfilRadial(const GráficoDoPerfilRadial& gráfico, const CurvaRelativa& relativa);
 
 /// The labels of the read-out: the last tick of each axis, and what shows r and i.
 struct LeituraDoPerfilRadial {

@@ -30,8 +30,9 @@ void Desenho::caixaCheiaDeTamanho(double x, double y, double largura, double alt
 }
 
 CaixaCheia Mosaico::caixa(std::size_t n) const {
-    const double x1 = x + static_cast<double>(n % colunas) * largura;
-    const double y1 = y + static_cast<double>(n / colunas) * altura;
+    const std::size_t linha = n / colunas, coluna = n % colunas;
+    const double x1 = x + static_cast<double>(coluna) * largura;
+    const double y1 = y + static_cast<double>(linha) * altura;
     return {x1, y1, x1 + largura, y1 + altura, cores[n]};
 }
 
