@@ -31,11 +31,10 @@ void juntarPonto(EnsaioDoAjuste& ensaio, double y, double x) {
     ensaio.Y.push_back(x * cosseno + y * seno);
 }
 
-/// `somarDesvios` of a number of sets that the compiler knows: their sums wait for nothing of each other. The
-/// estimates of one observation follow those of the last after `passo`.
+/// `somarDesvios` of a number of sets that the compiler knows: their sums wait for nothing of each other.
 template <std::size_t conjuntos>
 void somar(std::span<Avaliação> avaliações, std::span<const double> observados,
-           std::span<const double> estimados, std::size_t passo = conjuntos) {
+           std::span<const double> estimados) {
     std::array<double, conjuntos> somas, contados{};
     for (std::size_t s = 0; s < conjuntos; ++s) somas[s] = avaliações[s].soma;
     const double* estimado = estimados.data();
@@ -46,7 +45,7 @@ void somar(std::span<Avaliação> avaliações, std::span<const double> observad
             somas[s] = somas[s] + quadrado;
             contados[s] += quadrado > 0 ? 1.0 : 0.0;
         }
-        estimado += passo;
+        estimado += conjuntos;
     }
     // Squares only add up, so that a sum past the largest double is still there at the end.
     for (std::size_t s = 0; s < conjuntos; ++s) {
@@ -142,8 +141,7 @@ void somarDesvios(std::span<Avaliação> avaliações, std::span<const double> o
     case 2:
         return somar<2>(avaliações, observados, estimados);
     default:
-        for (std::size_t s = 0; s < avaliações.size(); ++s)
-            somar<1>(avaliações.subspan(s, 1), observados, estimados.subspan(s), avaliações.size());
+        return somar<1>(avaliações, observados, estimados);
     }
 }
 

@@ -99,8 +99,8 @@ std::vector<double> estimados(const EnsaioDeMalha& ensaio, Conjuntos conjuntos, 
 std::vector<double> estimados(const EnsaioMóvel& ensaio, Conjuntos conjuntos, ContagemDoModelo& contagem,
                               Largura largura = larguraEmUso());
 
-/// Adds to the evaluation of each set the squared deviations of its estimates from the observations, in their
-/// order. Raises "Estouro" where a sum grows past the largest double.
+/// Adds to the evaluation of each set, 1, 2, 4 or 8 of them, the squared deviations of its estimates from the
+/// observations, in their order. Raises "Estouro" where a sum grows past the largest double.
 void somarDesvios(std::span<Avaliação> avaliações, std::span<const double> observados,
                   std::span<const double> estimados);
 

@@ -201,15 +201,81 @@ TEST(Ensaio, ConjuntosJuntosValemComoCadaUm) {
 TEST(Ensaio, DeVáriosPontosFalhaOQueVemPrimeiro) {
     // The first point fails in the second test only; the second one in the first test already.
     const std::vector<Parametros> pontos(2);
-    const auto erro = erroDe([&] {
-        for (const auto largura : largurasDisponíveis())
-            avaliarEmConjuntos(pontos, largura, [&](Conjuntos conjuntos, std::span<Avaliação> avaliações) {
-                avaliações.front().soma = 1;
+    for (const auto largura : largurasDisponíveis()) {
+        int juntos = 0;
+        const auto erro = erroDe([&] {
+            avaliarEmConjuntos(pontos, largura, [&](Conjuntos conjuntos, std::span<Avaliação>) {
+                juntos += conjuntos.size() > 1;
                 if (conjuntos.size() > 1 || &conjuntos.front() == &pontos[1]) throw ErroExecucao{"o segundo"};
                 throw ErroExecucao{"o primeiro"};
             });
-    });
-    EXPECT_EQ(erro, "o primeiro");
+        });
+        EXPECT_EQ(erro, "o primeiro");
+        EXPECT_EQ(juntos, largura == Largura::escalar ? 0 : 1);
+    }
+}
+
+TEST(Ensaio, ComVáriosEnsaiosOErroÉODoPrimeiroPonto) {
+    // A wind of 1e200 makes the first point overflow in the second test only. The second point, all zeros but
+    // a B that no wind can make finite, fails in the first test already.
+    std::vector<EnsaioDeMalha> ensaios;
+    for (const double W : {2.0, 1e200})
+        ensaios.push_back(
+            ensaioDeMalha(aspersorDeTeste(), {.W = W, .direção = 0}, 6, 6, std::vector(36, 1.0)));
+    auto outro = parâmetrosDeTeste();
+    outro[1] = 1e308;
+    ContagemDoModelo contagem;
+    const auto erroCom = [&](const std::vector<EnsaioDeMalha>& estes, const std::vector<Parametros>& pontos,
+                             Largura largura) {
+        return erroDe([&] { objetivoDosEnsaios(estes, contagem, largura)(pontos); });
+    };
+    const auto primeiro = erroCom({ensaios[1]}, {parâmetrosDeTeste()}, Largura::escalar);
+    ASSERT_EQ(erroCom({ensaios[0]}, {parâmetrosDeTeste()}, Largura::escalar), "");
+    ASSERT_NE(primeiro, "");
+    ASSERT_NE(erroCom({ensaios[0]}, {outro}, Largura::escalar), "");
+    for (const auto largura : largurasDisponíveis())
+        EXPECT_EQ(erroCom(ensaios, {parâmetrosDeTeste(), outro}, largura), primeiro) << nomeDa(largura);
+}
+
+/// All that a fit tells and finds.
+struct TudoDoAjuste {
+    std::vector<double> desvios, barras;
+    ResultadoDaBusca resultado;
+};
+
+template <class Ensaio>
+TudoDoAjuste ajustarNaLargura(const Ensaio& ensaio, Largura largura) {
+    TudoDoAjuste tudo;
+    ContagemDoModelo contagem;
+    tudo.resultado = buscarParametros(objetivoDosEnsaios(std::vector{ensaio}, contagem, largura), 1e-5,
+                                      {[&](double desvio) { tudo.desvios.push_back(desvio); },
+                                       [&](double barra) { tudo.barras.push_back(barra); }});
+    return tudo;
+}
+
+template <class Ensaio>
+void compararAjustesDeTodasAsLarguras(const Ensaio& ensaio) {
+    const auto escalar = ajustarNaLargura(ensaio, Largura::escalar);
+    EXPECT_GT(escalar.desvios.size(), 5u);
+    for (const auto largura : largurasDisponíveis()) {
+        const auto este = ajustarNaLargura(ensaio, largura);
+        EXPECT_EQ(este.desvios, escalar.desvios) << nomeDa(largura);
+        EXPECT_EQ(este.barras, escalar.barras) << nomeDa(largura);
+        EXPECT_EQ(este.resultado.p, escalar.resultado.p) << nomeDa(largura);
+    }
+}
+
+TEST(Ensaio, OAjusteInteiroÉOMesmoEmTodasAsLarguras) {
+    ContagemDoModelo contagem;
+    auto malha = ensaioDeMalha(aspersorDeTeste(), {.W = 3, .direção = 45}, 8, 10, {});
+    malha.observados = estimados(malha, sozinho(parâmetrosDeTeste()), contagem);
+    for (std::size_t k = 0; k < malha.observados.size(); k += 2) malha.observados[k] *= 1.2;
+    compararAjustesDeTodasAsLarguras(malha);
+
+    auto móvel = ensaioMóvel(aspersorDeTeste(), {.W = 2, .direção = 120}, 12, 7, 35, 300, {});
+    móvel.observados = estimados(móvel, sozinho(parâmetrosDeTeste()), contagem);
+    for (std::size_t k = 0; k < móvel.observados.size(); k += 2) móvel.observados[k] *= 1.2;
+    compararAjustesDeTodasAsLarguras(móvel);
 }
 
 TEST(Ensaio, OQueFalhaSóJuntoValeSozinho) {

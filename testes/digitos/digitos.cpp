@@ -46,7 +46,8 @@ CondiçõesDoPonto condições(int direção) {
 int main() {
     Mistura modelo, biblioteca;
     for (int direção = 0; direção <= 360; ++direção) {
-        const auto c = condições(direção);
+        auto c = condições(direção);
+        if (direção % 2) c.setor = Setor::semCunhaÀFrente;
         const auto senos = senosDe(c);
         std::vector<double> X, Y;
         for (int i = 0; i < 60; ++i)

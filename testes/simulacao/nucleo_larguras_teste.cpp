@@ -13,6 +13,7 @@
 #include <cmath>
 #include <cstdint>
 #include <limits>
+#include <optional>
 #include <random>
 #include <string>
 #include <utility>
@@ -299,6 +300,59 @@ TEST(NucleoLarguras, QuocienteDoTesteDoSetorQueEstouraÉEstouro) {
     ASSERT_NO_FATAL_FAILURE(compararLarguras(p, c, cobertura));
     EXPECT_EQ(cobertura.molhados, 8u);
     EXPECT_EQ(cobertura.estouros, 1u);
+}
+
+TEST(NucleoLarguras, QuocienteDoTesteDoSetorQueEstouraComUmAlcanceEnormeÉEstouro) {
+    // xs / ys = 2^190 / 2^-850.
+    auto c = condiçõesDeTeste();
+    c.rotVento = 0;
+    c.W = 0;
+    c.R = 0x1p200;
+    Cobertura cobertura;
+    ASSERT_NO_FATAL_FAILURE(compararLarguras(repetido(0x1p190, 0x1p-850), c, cobertura));
+    EXPECT_EQ(cobertura.estouros, 8u);
+}
+
+/// The determinant of the first pass at (x, y), in the order in which the pass makes it.
+double determinanteEm(double x, double y, const CondiçõesDoPonto& c) {
+    const auto M = matrizDoModelo(x, y, c);
+    return M.J11 * M.J22 - M.J12 * M.J21;
+}
+
+/// An x between a and b, at which the determinant has different signs, where it is exactly 0; nothing where
+/// the doubles next to the change of sign have none.
+std::optional<double> raizDoDeterminante(double a, double b, double y, const CondiçõesDoPonto& c) {
+    for (;;) {
+        const double meio = a + (b - a) / 2;
+        if (meio == a || meio == b) break;
+        const double det = determinanteEm(meio, y, c);
+        if (det == 0) return meio;
+        (determinanteEm(a, y, c) * det < 0 ? b : a) = meio;
+    }
+    double x = a;
+    for (int vizinho = 0; vizinho < 100; ++vizinho) x = std::nextafter(x, -1e9);
+    for (int vizinho = 0; vizinho < 200; ++vizinho, x = std::nextafter(x, 1e9))
+        if (determinanteEm(x, y, c) == 0) return x;
+    return std::nullopt;
+}
+
+TEST(NucleoLarguras, DeterminanteDeZeroÉDivisãoPorZero) {
+    Sorteio sorteio{2030};
+    Cobertura cobertura;
+    std::size_t achados = 0;
+    for (int vez = 0; vez < 20'000 && achados < 20; ++vez) {
+        auto c = sortearComuns(sorteio, 10);
+        c.W = entre(sorteio, 5, 40);
+        const double y = entre(sorteio, -c.R, c.R);
+        const double a = entre(sorteio, -c.R, c.R), b = entre(sorteio, -c.R, c.R);
+        if (!(determinanteEm(a, y, c) * determinanteEm(b, y, c) < 0)) continue;
+        if (const auto x = raizDoDeterminante(a, b, y, c)) {
+            ++achados;
+            ASSERT_NO_FATAL_FAILURE(compararLarguras(repetido(*x, y), c, cobertura));
+        }
+    }
+    EXPECT_EQ(achados, 20u);
+    EXPECT_EQ(cobertura.divisões, 8 * achados);
 }
 
 TEST(NucleoLarguras, QualquerTamanhoEQualquerAlinhamentoValemComoPontoAPonto) {

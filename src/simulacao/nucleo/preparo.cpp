@@ -88,7 +88,7 @@ bool preparar(const CondiçõesDoPonto& c, const Senos& senos, PreparoDoLote& pr
     preparo.senos = senos;
     const bool círculo = c.setor == Setor::círculoInteiro;
     if (!círculo && !std::isfinite(360 / c.anguloGiro)) return false;
-    if (!(c.R >= 0x1p-500 && c.R <= 0x1p500)) return false;
+    if (!(c.R >= 0x1p-100 && c.R <= 0x1p100)) return false;
     preparo.foraDoAlcance = quadradoForaDoAlcance(c.R);
     preparo.perfil = segmentosDoPerfil(c.intensidades);
     preparo.escala = círculo ? 1 : 360 / c.anguloGiro;

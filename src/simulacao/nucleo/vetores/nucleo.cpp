@@ -221,7 +221,7 @@ Leitura leituraSemCunha(Vetor xs, Vetor ys, Máscara dentro, const PreparoDoLote
 Leitura leituraNoSetor(Vetor xs, Vetor ys, Máscara dentro, const PreparoDoLote& p, Contas& contas) {
     const Vetor d2 = xs * xs + ys * ys;
     dentro = dentro & (d2 < Vetor{p.foraDoAlcance});
-    // There the quotient of the arc tangent may overflow.
+    // There the quotient of the arc tangent may overflow: the other coordinate is below R, 2^100 at most.
     const Máscara rentes = dentro & (fabs(ys) < Vetor{0x1p-900});
     contas.suspeito |= rentes.alguma();
     return {sqrt(d2) / Vetor{p.condições.R}, noSetor(xs, ys, dentro & !rentes, p)};
