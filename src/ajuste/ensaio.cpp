@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <array>
 #include <cstddef>
+#include <type_traits>
 #include <utility>
 
 namespace varenta {
@@ -31,7 +32,37 @@ void juntarPonto(EnsaioDoAjuste& ensaio, double y, double x) {
     ensaio.Y.push_back(x * cosseno + y * seno);
 }
 
-/// `somarDesvios` of a number of sets that the compiler knows: their sums wait for nothing of each other.
+/// Calls with the number of sets, 1, 2, 4 or 8, as a constant: what is added up for each of them then waits
+/// for nothing of the others.
+template <class Fazer>
+void comQuantidade(std::size_t conjuntos, Fazer&& fazer) {
+    switch (conjuntos) {
+    case 8:
+        return fazer(std::integral_constant<std::size_t, 8>{});
+    case 4:
+        return fazer(std::integral_constant<std::size_t, 4>{});
+    case 2:
+        return fazer(std::integral_constant<std::size_t, 2>{});
+    default:
+        return fazer(std::integral_constant<std::size_t, 1>{});
+    }
+}
+
+template <std::size_t conjuntos>
+std::vector<double> lâminasDe(const EnsaioMóvel& ensaio, std::span<const double> intensidades) {
+    const auto N = static_cast<std::size_t>(ensaio.N);
+    std::vector<double> lâminas;
+    lâminas.reserve(N * conjuntos);
+    const double* intensidade = intensidades.data();
+    for (std::size_t posição = 0; posição < N; ++posição) {
+        std::array<double, conjuntos> totais{};
+        for (std::size_t passo = 0; passo < N; ++passo, intensidade += conjuntos)
+            for (std::size_t s = 0; s < conjuntos; ++s) totais[s] = totais[s] + intensidade[s];
+        for (const double total : totais) lâminas.push_back(dividir(finito(total * ensaio.e), ensaio.v));
+    }
+    return lâminas;
+}
+
 template <std::size_t conjuntos>
 void somar(std::span<Avaliação> avaliações, std::span<const double> observados,
            std::span<const double> estimados) {
@@ -106,17 +137,8 @@ std::vector<double> intensidadesEstimadas(const EnsaioDoAjuste& ensaio, Conjunto
 
 std::vector<double> lâminasEstimadas(const EnsaioMóvel& ensaio, std::span<const double> intensidades,
                                      std::size_t conjuntos) {
-    const auto N = static_cast<std::size_t>(ensaio.N);
     std::vector<double> lâminas;
-    lâminas.reserve(N * conjuntos);
-    std::vector<double> totais(conjuntos);
-    auto intensidade = intensidades.begin();
-    for (std::size_t posição = 0; posição < N; ++posição) {
-        std::ranges::fill(totais, 0);
-        for (std::size_t passo = 0; passo < N; ++passo)
-            for (double& total : totais) total = total + *intensidade++;
-        for (const double total : totais) lâminas.push_back(dividir(finito(total * ensaio.e), ensaio.v));
-    }
+    comQuantidade(conjuntos, [&](auto quantos) { lâminas = lâminasDe<quantos>(ensaio, intensidades); });
     return lâminas;
 }
 
@@ -133,16 +155,8 @@ std::vector<double> estimados(const EnsaioMóvel& ensaio, Conjuntos conjuntos, C
 
 void somarDesvios(std::span<Avaliação> avaliações, std::span<const double> observados,
                   std::span<const double> estimados) {
-    switch (avaliações.size()) {
-    case 8:
-        return somar<8>(avaliações, observados, estimados);
-    case 4:
-        return somar<4>(avaliações, observados, estimados);
-    case 2:
-        return somar<2>(avaliações, observados, estimados);
-    default:
-        return somar<1>(avaliações, observados, estimados);
-    }
+    comQuantidade(avaliações.size(),
+                  [&](auto quantos) { somar<quantos>(avaliações, observados, estimados); });
 }
 
 std::vector<Avaliação> avaliarEmConjuntos(Conjuntos pontos, Largura largura,
