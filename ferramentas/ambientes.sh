@@ -4,7 +4,7 @@
 set -euo pipefail
 . "$(dirname "$0")/preparar.sh"
 
-instalar "${pacotes_de_construcao[@]}" "${pacotes_de_teste[@]}" "${pacotes_de_ambientes[@]}"
+instalar "${pacotes_de_construcao[@]}" "${pacotes_de_teste[@]}" "${pacotes_longos[@]}"
 compiladores=("$@")
 [ "$#" -gt 0 ] || compiladores=(g++ clang++)
 

@@ -5,7 +5,7 @@
 set -euo pipefail
 . "$(dirname "$0")/preparar.sh"
 
-instalar cmake ninja-build clang libclang-rt-14-dev
+instalar "${pacotes_de_construcao[@]}" "${pacotes_longos[@]}"
 
 quanto=${1:-60s}
 ensaios=(campo roteiro movel malha radial parametros prefixo estrito)

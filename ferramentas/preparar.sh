@@ -33,7 +33,5 @@ pacotes_de_construcao=(g++ cmake ninja-build qt6-base-dev qt6-svg-dev libgl-dev 
     fonts-dejavu-core)
 pacotes_de_teste=(libgtest-dev clang-format locales groff-base desktop-file-utils appstream
     shared-mime-info)
-pacotes_longos=(gcovr)
-# What the long form of ./testar asks for besides.
-pacotes_de_analise=(clang clang-tidy cppcheck)
-pacotes_de_ambientes=(clang libbenchmark-dev locales)
+# What the long form of ./testar and the scripts that it calls ask for besides.
+pacotes_longos=(gcovr clang clang-tidy cppcheck libclang-rt-14-dev libbenchmark-dev)

@@ -182,7 +182,7 @@ QString filtrosDoQt(const QString& filtro) {
     const auto partes = filtro.split(QLatin1Char{'|'});
     QStringList filtros;
     for (qsizetype k = 0; k + 1 < partes.size(); k += 2) {
-        const auto máscara = partes[k + 1];
+        const auto& máscara = partes[k + 1];
         const auto máscaras = máscara == QLatin1String{"*.*"}
                                   ? QStringLiteral("*")
                                   : máscara + QLatin1Char{' '} + máscara.toLower();

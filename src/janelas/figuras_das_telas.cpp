@@ -62,8 +62,8 @@ const Textos percursoDeForm7 = {
     "Ângulo Seco II: {Form7.Label33}º",
     "Rotação: {Form7.Label36}º",
     "Ângulo de Giro: {Form7.Label35}º",
-    "Parâmetros do Vento (A/R a F/R): {Form7.Text2}; {Form7.Text3}; {Form7.Text4}; {Form7.Text5}; "
-    "{Form7.Text6}; {Form7.Text7}",
+    ("Parâmetros do Vento (A/R a F/R): {Form7.Text2}; {Form7.Text3}; {Form7.Text4}; {Form7.Text5}; "
+     "{Form7.Text6}; {Form7.Text7}"),
 };
 
 const Textos dadosDeForm4 = {

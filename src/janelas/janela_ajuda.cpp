@@ -139,8 +139,8 @@ std::vector<const PaginaDaAjuda*> buscarNaAjuda(const std::vector<PaginaDaAjuda>
         if (todas && vezes > 0) achados.push_back({&página, vezes});
     }
     std::ranges::stable_sort(achados, std::greater{}, &Achado::vezes);
-    std::vector<const PaginaDaAjuda*> ordenadas;
-    for (const auto& achado : achados) ordenadas.push_back(achado.página);
+    std::vector<const PaginaDaAjuda*> ordenadas(achados.size());
+    std::ranges::transform(achados, ordenadas.begin(), &Achado::página);
     return ordenadas;
 }
 
@@ -266,10 +266,8 @@ QWidget* JanelaDaAjuda::criarBarra() {
     acrescentarAção(QStringLiteral("Avançar"), QKeySequence::Forward, &QTextBrowser::forward,
                     &QTextBrowser::forwardAvailable);
     barra->addAction(QStringLiteral("Início"), this, [this] { abrir(páginas_.front().arquivo); });
-    barra->addAction(QStringLiteral("Letra maior"), QKeySequence::ZoomIn, this,
-                     [this] { mudarLetra(1); });
-    barra->addAction(QStringLiteral("Letra menor"), QKeySequence::ZoomOut, this,
-                     [this] { mudarLetra(-1); });
+    barra->addAction(QStringLiteral("Letra maior"), QKeySequence::ZoomIn, this, [this] { mudarLetra(1); });
+    barra->addAction(QStringLiteral("Letra menor"), QKeySequence::ZoomOut, this, [this] { mudarLetra(-1); });
     return barra;
 }
 

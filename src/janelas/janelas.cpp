@@ -87,9 +87,10 @@ void Janelas::conferirExistência() {
         if (!modelo.tela->carregada() || vínculos_.contains(modelo.tela)) continue;
         auto janela = modelo.criar();
         vínculos_.emplace(modelo.tela, new Vinculo{*modelo.tela, *janela, *this});
-        connect(new QShortcut{QKeySequence{QKeySequence::HelpContents}, janela.get()}, &QShortcut::activated,
-                this, [this, tela = modelo.tela] { agir([tela] { varenta::atos::pedirAjuda(*tela); }); });
-        janela.release();
+        // From here on `Vinculo::descartar` sees to the window.
+        connect(new QShortcut{QKeySequence{QKeySequence::HelpContents}, janela.release()},
+                &QShortcut::activated, this,
+                [this, tela = modelo.tela] { agir([tela] { varenta::atos::pedirAjuda(*tela); }); });
     }
 }
 

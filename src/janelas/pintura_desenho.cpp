@@ -415,7 +415,7 @@ void PinturaDoDesenho::pintarEscalas(QPainter& pintor) const {
                     Qt::AlignCenter | Qt::TextDontClip, conteúdo_.tituloX);
     const int metade = static_cast<int>(tamanho_.height() / 2);
     pintor.save();
-    pintor.translate(tudo.x() + altura / 2 + folga / 2, quadro.center().y());
+    pintor.translate(QPoint{tudo.x() + altura / 2 + folga / 2, quadro.center().y()});
     pintor.rotate(-90);
     pintor.drawText(QRect{-metade, -altura / 2, 2 * metade, altura}, Qt::AlignCenter | Qt::TextDontClip,
                     conteúdo_.tituloY);

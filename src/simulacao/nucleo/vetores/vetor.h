@@ -98,7 +98,7 @@ inline Registro bitsAltos(Registro a) { return _mm_and_pd(a, _mm_castsi128_pd(_m
 inline Registro iguaisOuNaN(Registro a, Registro b) { return _mm_or_pd(a, _mm_cmpneq_pd(a, b)); }
 #endif
 
-constexpr std::size_t faixas = sizeof(Registro) / sizeof(double);
+inline constexpr std::size_t faixas = sizeof(Registro) / sizeof(double);
 
 /// A truth value for each lane.
 struct Máscara {
