@@ -241,6 +241,20 @@ TEST_F(ComparaçãoDoAjuste, FecharEscondeEGuardaODesvioGeral) {
     EXPECT_EQ(form_graf(1)->Label16.texto, "Desvio Médio Geral: 1.234 mm/h");
 }
 
+TEST_F(ComparaçãoDoAjuste, CadaTelaÉADoSeuEnsaio) {
+    for (int n = 1; n <= 3; ++n) {
+        const auto título = "Ensaio " + std::to_string(n) + ": Precipitações Observadas x Estimadas";
+        EXPECT_EQ(form_graf(n)->Caption, título);
+        EXPECT_EQ(form_MIgraf(n)->Caption, título);
+        form_graf(n).mostrar();
+        form_MIgraf(n).mostrar();
+        atos::fechar(form_graf(n));
+        atos::fechar(form_MIgraf(n));
+        EXPECT_FALSE(form_graf(n).visivel) << n;
+        EXPECT_FALSE(form_MIgraf(n).visivel) << n;
+    }
+}
+
 TEST_F(ComparaçãoDoAjuste, VerificaOEnsaioAntes) {
     malhaDeQuatro(1, {"5", "7", "x", "10"});
     comparar("Command8");

@@ -3,6 +3,7 @@
 #include "apoio/ensaios.h"
 #include "aspersor/arquivo_radial.h"
 #include "aspersor/avancar_perfil_form.h"
+#include "comum/ajuda.h"
 
 namespace varenta::teste {
 namespace {
@@ -49,6 +50,13 @@ TEST_F(EnsaioRadial, AbreEmMmPorHoraComUmaLinhaPorDigitar) {
     EXPECT_EQ(f.Label7.texto, "Digite os Valores:");
     EXPECT_EQ(f.lblPreenchidas.texto, "Células preenchidas: 0 de 2");
     EXPECT_FALSE(form3.visivel);
+}
+
+TEST_F(EnsaioRadial, CarregarNomeiaOArquivoDeAjuda) {
+    perfilForm.descarregar();
+    arquivoDeAjuda.clear();
+    perfilForm.carregar();
+    EXPECT_EQ(arquivoDeAjuda, "C:\\Arquivos de programas\\Varenta\\VARENTA VERSÃO 5.0.hlp");
 }
 
 TEST_F(EnsaioRadial, CadaItemDoMenuDeixaUmBotãoDeAvançar) {
@@ -230,6 +238,10 @@ TEST_F(EnsaioRadial, ODesenhoMostraUmColetorACadaDistância) {
     ASSERT_EQ(traços.size(), 2U + 2 * 2U);
     EXPECT_EQ(std::get<Arco>(traços[2]).cx, 150);
     EXPECT_EQ(std::get<Arco>(traços[4]).cx, 285);
+    // All stand halfway up the picture of 300 x 60, on the line.
+    EXPECT_EQ(std::get<Linha>(traços[0]).y1, 30);
+    EXPECT_EQ(std::get<Linha>(traços[0]).y2, 30);
+    for (std::size_t k = 1; k < traços.size(); ++k) EXPECT_EQ(std::get<Arco>(traços[k]).cy, 30) << k;
 }
 
 TEST_F(EnsaioRadial, LimparEsvaziaTudoMenosONúmeroDeDados) {
