@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <array>
 #include <cstddef>
+#include <stdexcept>
 #include <type_traits>
 #include <utility>
 
@@ -43,8 +44,10 @@ void comQuantidade(std::size_t conjuntos, Fazer&& fazer) {
         return fazer(std::integral_constant<std::size_t, 4>{});
     case 2:
         return fazer(std::integral_constant<std::size_t, 2>{});
-    default:
+    case 1:
         return fazer(std::integral_constant<std::size_t, 1>{});
+    default:
+        throw std::invalid_argument{"sets of parameters go by 1, 2, 4 or 8"};
     }
 }
 

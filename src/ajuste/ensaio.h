@@ -78,8 +78,9 @@ EnsaioMóvel ensaioMóvel(const AspersorDoAjuste& aspersor, const VentoDoEnsaio&
 /// Raises "Divisão por zero" for a test that caught nothing.
 double igualarÀVazão(EnsaioDoAjuste& ensaio, float Q);
 
-/// One or more sets of parameters that are evaluated together. What comes of them stands in one row: all that
-/// belongs to the first point or observation, set by set, then all of the second.
+/// Sets of parameters that are evaluated together: 1, 2, 4 or 8 of them (`std::invalid_argument` else). What
+/// comes of them stands in one row: all that belongs to the first point or observation, set by set, then all
+/// of the second.
 using Conjuntos = std::span<const Parametros>;
 /// One set alone. It must outlive what this returns.
 inline Conjuntos sozinho(const Parametros& p) { return {&p, 1}; }
@@ -99,7 +100,7 @@ std::vector<double> estimados(const EnsaioDeMalha& ensaio, Conjuntos conjuntos, 
 std::vector<double> estimados(const EnsaioMóvel& ensaio, Conjuntos conjuntos, ContagemDoModelo& contagem,
                               Largura largura = larguraEmUso());
 
-/// Adds to the evaluation of each set, 1, 2, 4 or 8 of them, the squared deviations of its estimates from the
+/// Adds to the evaluation of each set the squared deviations of its estimates from the
 /// observations, in their order. Raises "Estouro" where a sum grows past the largest double.
 void somarDesvios(std::span<Avaliação> avaliações, std::span<const double> observados,
                   std::span<const double> estimados);
