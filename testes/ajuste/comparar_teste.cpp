@@ -52,6 +52,7 @@ TEST_F(ComparaçãoDoAjuste, AMalhaComparaAsPrecipitaçõesNaVazãoDoAspersor) {
     EXPECT_EQ(f.Label14.texto, "11.0 mm/h");
     EXPECT_EQ(f.Label11.texto, "Velocidade do Vento: 0.0 m/s");
     EXPECT_EQ(f.Label12.texto, "Direção do Vento: 45");
+    EXPECT_EQ(f.ensaioComparado, (Textos{"Espaçamento entre Coletores: 6.0 m", "Coletores: 2 x 2"}));
     EXPECT_EQ(textos(f.Label3), (Textos{"-3.0", "-2.0", "-1.0", "0.0", "1.0", "2.0", "3.0"}));
     EXPECT_EQ(textos(f.Label6), textos(f.Label3));
 }

@@ -3,7 +3,6 @@
 #include "apoio/ensaios.h"
 #include "aspersor/arquivo_radial.h"
 #include "aspersor/avancar_perfil_form.h"
-#include "comum/ajuda.h"
 
 namespace varenta::teste {
 namespace {
@@ -50,13 +49,6 @@ TEST_F(EnsaioRadial, AbreEmMmPorHoraComUmaLinhaPorDigitar) {
     EXPECT_EQ(f.Label7.texto, "Digite os Valores:");
     EXPECT_EQ(f.lblPreenchidas.texto, "Células preenchidas: 0 de 2");
     EXPECT_FALSE(form3.visivel);
-}
-
-TEST_F(EnsaioRadial, CarregarNomeiaOArquivoDeAjuda) {
-    perfilForm.descarregar();
-    arquivoDeAjuda.clear();
-    perfilForm.carregar();
-    EXPECT_EQ(arquivoDeAjuda, "C:\\Arquivos de programas\\Varenta\\VARENTA VERSÃO 5.0.hlp");
 }
 
 TEST_F(EnsaioRadial, CadaItemDoMenuDeixaUmBotãoDeAvançar) {
