@@ -282,6 +282,23 @@ TEST(Busca, OPassoMaisCurtoÉTentadoEAbandonadoMesmoQueDesça) {
     EXPECT_EQ(b.barras.back(), 35);
 }
 
+TEST(Busca, OFimDaParábolaSóValeSeForMenorQueOPasso) {
+    // From 5 the step of 1 leads to 4 and that of 1/2 to 3: c1 = -4, c2 = 2, c3 = 6, and the parabola's end
+    // is 0.5 (0.5 + 4/6) away. Worth 4 as well, it doesn't take the place of the step.
+    for (const auto& [noFim, passo] : {std::pair{4.0, 1.0}, {3.9, 0.5 * (0.5 + 4.0 / 6)}}) {
+        BuscaPorEtapas b;
+        b.buscar(
+            [&](const Parametros& p) {
+                const double t = b.início() - p[0];
+                return t < 0.55 ? 3 : t < 0.9 ? noFim : 4;
+            },
+            1e-5);
+        EXPECT_NEAR(b.sós[2][0], b.início() - 0.5 * (0.5 + 4.0 / 6), 1e-12);
+        ASSERT_GT(b.gradientes.size(), 1u);
+        EXPECT_NEAR(b.gradientes[1][0], b.início() - passo + 0.001, 1e-12);
+    }
+}
+
 TEST(Busca, UmaMudançaPequenaSóPõeAContagemEm35EADescidaSegue) {
     // The sum falls by 1e-6 with the step of 1, and more at none: the parabola's end changes it by less than
     // the tolerance, so the bar jumps to 35.5, and the stage goes on with another gradient.

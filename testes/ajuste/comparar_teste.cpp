@@ -52,6 +52,7 @@ TEST_F(ComparaçãoDoAjuste, AMalhaComparaAsPrecipitaçõesNaVazãoDoAspersor) {
     EXPECT_EQ(f.Label14.texto, "11.0 mm/h");
     EXPECT_EQ(f.Label11.texto, "Velocidade do Vento: 0.0 m/s");
     EXPECT_EQ(f.Label12.texto, "Direção do Vento: 45");
+    EXPECT_EQ(f.ensaioComparado, (Textos{"Espaçamento entre Coletores: 6.0 m", "Coletores: 2 x 2"}));
     EXPECT_EQ(textos(f.Label3), (Textos{"-3.0", "-2.0", "-1.0", "0.0", "1.0", "2.0", "3.0"}));
     EXPECT_EQ(textos(f.Label6), textos(f.Label3));
 }
@@ -239,6 +240,20 @@ TEST_F(ComparaçãoDoAjuste, FecharEscondeEGuardaODesvioGeral) {
     EXPECT_TRUE(form_graf(1).visivel);
     atos::fechar(form_graf(1));
     EXPECT_EQ(form_graf(1)->Label16.texto, "Desvio Médio Geral: 1.234 mm/h");
+}
+
+TEST_F(ComparaçãoDoAjuste, CadaTelaÉADoSeuEnsaio) {
+    for (int n = 1; n <= 3; ++n) {
+        const auto título = "Ensaio " + std::to_string(n) + ": Precipitações Observadas x Estimadas";
+        EXPECT_EQ(form_graf(n)->Caption, título);
+        EXPECT_EQ(form_MIgraf(n)->Caption, título);
+        form_graf(n).mostrar();
+        form_MIgraf(n).mostrar();
+        atos::fechar(form_graf(n));
+        atos::fechar(form_MIgraf(n));
+        EXPECT_FALSE(form_graf(n).visivel) << n;
+        EXPECT_FALSE(form_MIgraf(n).visivel) << n;
+    }
 }
 
 TEST_F(ComparaçãoDoAjuste, VerificaOEnsaioAntes) {

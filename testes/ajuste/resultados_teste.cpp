@@ -4,12 +4,8 @@
 #include "ajuste/form_ajven.h"
 #include "ajuste/form_graf.h"
 #include "apoio/ajuste_feito_a_mao.h"
-#include "comum/numeros.h"
 #include "shell/form3.h"
-#include "simulacao/perfil_em.h"
 
-#include <algorithm>
-#include <cmath>
 #include <string>
 #include <tuple>
 #include <vector>
@@ -21,27 +17,6 @@ using Textos = std::vector<std::string>;
 
 constexpr auto semÂngulo = "Ângulo do jato não informado: o ajuste usa 0º.";
 constexpr auto outroBocal = "Os parâmetros foram ajustados com outro bocal ou pressão.";
-
-/// The grid method for a sprinkler of 20 m whose intensity falls straight from 12 mm/h to none, with a test
-/// from which a fit comes to its end: 8 x 8 collectors every 6 m, the same cone carried by 3 m to the left.
-void abrirComUmaMalhaQueSeAjusta() {
-    abrirFormAjvenOu(Método::malha);
-    form_AjvenOu->lblRaioAlcance.texto = "20.00";
-    form_AjvenOu->Label17.texto = "5.027"; // pi 20² x 12 / 3 l/h
-    for (std::size_t k = 1; k <= 22; ++k)
-        form_AjvenOu->lblIntensidade[k].texto = Format(12 * (1 - limitesDoPerfil[k - 1]), "0.000");
-    auto& f = *form_E1.operator->();
-    f.Combo2.texto = "8";
-    Erro_plan(1);
-    definirValor(f.HScroll2, 20);
-    definirValor(f.HScroll1, 90);
-    for (int l = 1; l <= 8; ++l)
-        for (int c = 1; c <= 8; ++c) {
-            const double r = std::hypot(6 * (c - 4.5) + 3, 6 * (4.5 - l));
-            irParaCélula(planilhaDoEnsaio(f), l, c);
-            f.Text5.texto = Format(std::max(12 * (1 - r / 20), 0.0), "0.000");
-        }
-}
 
 /// What was told, but for the plain messages.
 Textos avisosDoCaderno() {

@@ -8,10 +8,14 @@
 #include "apoio/atalhos.h"
 #include "apoio/plataforma_teste.h"
 #include "aspersor/perfil_form.h"
+#include "comum/numeros.h"
 #include "comum/operacoes.h"
+#include "simulacao/perfil_em.h"
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <cmath>
 #include <initializer_list>
 
 /// A sprinkler out of the catalogue and tests small enough to be worked by hand.
@@ -72,6 +76,32 @@ inline void móvelDeDois(int n, std::initializer_list<const char*> leituras) {
     MIErro_plan(n);
     definirValor(f.HScroll2, 0);
     preencher(f, leituras);
+}
+
+/// The same for a sprinkler of 20 m whose intensity falls straight from 12 mm/h to none.
+inline void abrirFormAjvenOuComUmCone(Método método) {
+    abrirFormAjvenOu(método);
+    form_AjvenOu->lblRaioAlcance.texto = "20.00";
+    form_AjvenOu->Label17.texto = "5.027"; // pi 20² x 12 / 3 l/h
+    for (std::size_t k = 1; k <= 22; ++k)
+        form_AjvenOu->lblIntensidade[k].texto = Format(12 * (1 - limitesDoPerfil[k - 1]), "0.000");
+}
+
+/// The grid method for that sprinkler with a test from which a fit comes to its end: 8 x 8 collectors every
+/// 6 m, the same cone carried by 3 m to the left.
+inline void abrirComUmaMalhaQueSeAjusta() {
+    abrirFormAjvenOuComUmCone(Método::malha);
+    auto& f = *form_E1.operator->();
+    f.Combo2.texto = "8";
+    Erro_plan(1);
+    definirValor(f.HScroll2, 20);
+    definirValor(f.HScroll1, 90);
+    for (int l = 1; l <= 8; ++l)
+        for (int c = 1; c <= 8; ++c) {
+            const double r = std::hypot(6 * (c - 4.5) + 3, 6 * (4.5 - l));
+            irParaCélula(planilhaDoEnsaio(f), l, c);
+            f.Text5.texto = Format(std::max(12 * (1 - r / 20), 0.0), "0.000");
+        }
 }
 
 } // namespace varenta::teste

@@ -109,6 +109,12 @@ TEST_F(TelaDoAspersor, PressãoAbreEm50ComPassosDe5EmTodosOsModelos) {
     }
 }
 
+TEST_F(TelaDoAspersor, APressãoTemOsSeusPassosAindaSemModelo) {
+    EXPECT_EQ(form1->hsbPressão.valor, 50);
+    EXPECT_EQ(form1->hsbPressão.passoPequeno, 5);
+    EXPECT_EQ(form1->hsbPressão.passoGrande, 5);
+}
+
 TEST_F(TelaDoAspersor, FaixaDePressãoÉDoModelo) {
     abrir("TX15B");
     EXPECT_EQ(recusaDe([&] { rolar(29); }), "form1.hsbPressão vai de 30 a 70");

@@ -230,6 +230,10 @@ TEST_F(EnsaioRadial, ODesenhoMostraUmColetorACadaDistância) {
     ASSERT_EQ(traços.size(), 2U + 2 * 2U);
     EXPECT_EQ(std::get<Arco>(traços[2]).cx, 150);
     EXPECT_EQ(std::get<Arco>(traços[4]).cx, 285);
+    // All stand halfway up the picture of 300 x 60, on the line.
+    EXPECT_EQ(std::get<Linha>(traços[0]).y1, 30);
+    EXPECT_EQ(std::get<Linha>(traços[0]).y2, 30);
+    for (std::size_t k = 1; k < traços.size(); ++k) EXPECT_EQ(std::get<Arco>(traços[k]).cy, 30) << k;
 }
 
 TEST_F(EnsaioRadial, LimparEsvaziaTudoMenosONúmeroDeDados) {

@@ -25,6 +25,12 @@ TEST(FecharPerfil, ALinhaDasDuasPrimeirasChegaAoAspersor) {
     EXPECT_EQ(fechado.pontos.back().i, 0);
 }
 
+TEST(FecharPerfil, AAlturaNoAspersorParteDaPrimeiraLeitura) {
+    // From (49, 1) to (98, 0) the line falls by the double nearest to 1/49, of which 49 make 1 - 2^-53: with
+    // the 1 of the first reading 2, while from the 0 of the second 98 of them would lead to 2 - 2^-52.
+    EXPECT_EQ(fecharPerfil(Pontos{{49, 1}, {98, 0}}).pontos.front().i, 2);
+}
+
 TEST(FecharPerfil, UmaLinhaQueCaiAbaixoDeZeroDáODobroDaPrimeiraLeitura) {
     // From (2, 1) to (4, 3) the line starts at -1.
     EXPECT_EQ(fecharPerfil(Pontos{{2, 1}, {4, 3}, {6, 2}}).pontos.front().i, 2);

@@ -300,6 +300,8 @@ TEST_F(SobreposiçãoDoMóvel, OsGráficosTêmAsEscalasDoCentro) {
     // in blue.
     const auto& traços = f.Picture1.traços;
     ASSERT_EQ(traços.size(), 22U + 14 + 8 + 5 + 3 * 2);
+    for (std::size_t k = 0; k < traços.size(); ++k)
+        EXPECT_EQ(std::get<Linha>(traços[k]).largura, k < 49 ? 1 : 2) << k;
     EXPECT_EQ(std::get<Linha>(traços[49]).cor, cores::verde);
     EXPECT_EQ(std::get<Linha>(traços[51]).cor, cores::vermelho);
     EXPECT_EQ(std::get<Linha>(traços.back()).cor, cores::azul);

@@ -221,6 +221,17 @@ TEST(GravarTexto, SegueAsLigaçõesAtéOArquivo) {
     EXPECT_EQ(pasta.nomes().size(), 3u);
 }
 
+TEST(GravarTexto, QuarentaLigaçõesSeguidasSãoAsMaisQueSegue) {
+    const PastaTemporaria pasta;
+    const auto ligação = [](int n) { return n == 0 ? "alvo.txt" : "ligação" + std::to_string(n); };
+    pasta.gravar("alvo.txt", "velho");
+    for (int n = 1; n <= 41; ++n) fs::create_symlink(ligação(n - 1), pasta.caminho(ligação(n)));
+    gravarTexto(pasta.caminho(ligação(40)), "novo");
+    EXPECT_EQ(pasta.bytes("alvo.txt"), "novo");
+    EXPECT_EQ(erroDe([&] { gravarTexto(pasta.caminho(ligação(41)), "outro"); }), "ligações em círculo");
+    EXPECT_EQ(pasta.bytes("alvo.txt"), "novo");
+}
+
 TEST(GravarTexto, UmaLigaçãoSemAlvoFicaLigaçãoEOAlvoNasce) {
     const PastaTemporaria pasta;
     fs::create_symlink("alvo.txt", pasta.caminho("ligação.txt"));

@@ -2,6 +2,7 @@
 
 #include "apoio/tela_de_teste.h"
 #include "aspersor/form1.h"
+#include "comum/ajuda.h"
 #include "shell/form3.h"
 #include "simulacao/form7.h"
 
@@ -26,6 +27,18 @@ TEST(Sistema, AOrdemComeçaPelaTelaPrincipalESegueADeFechamento) {
     EXPECT_EQ(telas.front(), &form3);
     const auto lugar = [&](const TelaBase& tela) { return std::ranges::find(telas, &tela) - telas.begin(); };
     EXPECT_LT(lugar(form1), lugar(form7));
+}
+
+TEST(Sistema, CadaTelaNomeiaOArquivoDeAjudaAoCarregar) {
+    recomeçar();
+    for (auto* tela : telasEmOrdem()) {
+        if (!tela->eventos().aoCarregar) continue; // the progress of a fit
+        tela->descarregar();
+        arquivoDeAjuda.clear();
+        tela->carregar();
+        EXPECT_EQ(arquivoDeAjuda, "C:\\Arquivos de programas\\Varenta\\VARENTA VERSÃO 5.0.hlp")
+            << tela->nome();
+    }
 }
 
 TEST(Sistema, AchaATelaPeloSeuNomeExato) {

@@ -59,7 +59,15 @@ TEST_F(Esboço, TemDoisCarreadoresUmSetorEmCadaPontaEAsTrêsCotasEmEscala) {
     EXPECT_NEAR(cotas[1], 3 * metro, 1e-9);
     const auto arcos = traços<Arco>();
     ASSERT_EQ(arcos.size(), 4u);
-    for (const auto& arco : arcos) EXPECT_NEAR(arco.raio, 3 * metro, 1e-9);
+    for (const auto& arco : arcos) {
+        EXPECT_NEAR(arco.raio, 3 * metro, 1e-9);
+        EXPECT_EQ(arco.largura, 1); // thinner than lanes and dimensions
+    }
+    for (const auto& linha : traços<Linha>()) {
+        if (linha.x1 == linha.x2) {
+            EXPECT_EQ(linha.largura, 2);
+        }
+    }
     EXPECT_NEAR(std::fabs(arcos[2].cx - arcos[0].cx), 4 * metro, 1e-9);
     EXPECT_NEAR(std::fabs(arcos[1].cy - arcos[0].cy), 10 * metro, 1e-9);
 }

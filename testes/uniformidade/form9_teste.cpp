@@ -168,12 +168,14 @@ TEST_F(Eficiências, AsLeiturasSeguemAsLegendasEForaFicamVazias) {
     mouse("Picture2", 417, 7);
     EXPECT_EQ(form9->lblIr2.texto, "Ir = " + form9->Label27.back().texto + "00 mm");
     EXPECT_EQ(form9->lblEf.texto, "Ef. Apl. ou Ef. Arm. = 100.000 %");
+    EXPECT_EQ(form9.ponteiro, Ponteiro::cruz);
     mouse("Picture2", 67, 175); // 42 of 210
     EXPECT_EQ(form9->lblIr2.texto, "Ir = " + form9->Label27.front().texto + "00 mm");
     EXPECT_EQ(form9->lblEf.texto, "Ef. Apl. ou Ef. Arm. = 20.000 %");
     mouse("Picture2", 100, 217.1);
     EXPECT_EQ(form9->lblIr2.texto, "");
     EXPECT_EQ(form9->lblEf.texto, "");
+    EXPECT_EQ(form9.ponteiro, Ponteiro::padrão);
 }
 
 TEST_F(Eficiências, UmaMudançaEmForm5DesabilitaSalvarAtéANovaAnálise) {
