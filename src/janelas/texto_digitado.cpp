@@ -39,13 +39,22 @@ QString TextoDigitado::comoFoiDigitado(QString texto) const {
     return texto;
 }
 
-void TextoDigitado::receber(const QString& texto) {
+void TextoDigitado::passarPelosCorrigidos() {
+    const auto porCorrigir = [this] { return corrigido(caixa_.text()) != caixa_.text(); };
+    if (!porCorrigir()) return;
+    const bool desfazendo = corrigido(caixa_.text()) == mostrado_;
+    escrevendo_ = true;
+    // Always the same way: two such texts may stand side by side.
+    while (porCorrigir() && (desfazendo ? caixa_.isUndoAvailable() : caixa_.isRedoAvailable()))
+        desfazendo ? caixa_.undo() : caixa_.redo();
+    escrevendo_ = false;
+}
+
+void TextoDigitado::receber() {
     if (escrevendo_) return;
-    // Only after an undo or a redo is there something to redo. They pass over a text that was corrected at
-    // once.
-    if (caixa_.isRedoAvailable() && corrigido(texto) != texto)
-        return corrigido(texto) == mostrado_ ? caixa_.undo() : caixa_.redo();
-    auto novo = emUmaLinha(texto);
+    // Only after an undo or a redo is there something to redo.
+    if (caixa_.isRedoAvailable()) passarPelosCorrigidos();
+    auto novo = emUmaLinha(caixa_.text());
     if (éDeNúmero() && !caixa_.isRedoAvailable()) {
         // A second comma or point leaves all of them as they were typed: only the person knows what it means.
         const auto digitado = comoFoiDigitado(novo);

@@ -16,7 +16,9 @@ class TextoDigitado : public QObject {
     void mudou(const QString& texto);
 
   private:
-    void receber(const QString& texto);
+    void receber();
+    /// After an undo or a redo: goes on past texts that were corrected at once.
+    void passarPelosCorrigidos();
     /// Makes the box show the text by an edit that can be undone, as setting it could not.
     void escrever(const QString& novo);
     bool éDeNúmero() const;

@@ -8,8 +8,11 @@
 #include <QLabel>
 #include <QLineEdit>
 
+#include <functional>
 #include <map>
+#include <random>
 #include <set>
+#include <vector>
 
 /// Numbers as people type them, with a comma, in every box and list.
 namespace varenta::teste {
@@ -132,6 +135,27 @@ TEST_F(Digitação, desfazer_e_refazer_passam_pela_vírgula) {
     digitar("9");
     EXPECT_EQ(textos(QKeySequence::Undo), (QStringList{"7.25", "50"}));
     EXPECT_EQ(textos(QKeySequence::Redo), (QStringList{"7.25", "7.259"}));
+}
+
+TEST_F(Digitação, desfazer_e_refazer_ao_acaso_chegam_sempre_a_um_fim) {
+    std::mt19937 sorteio{4};
+    const std::vector<std::function<void()>> mãos = {
+        [&] { digitar(","); },
+        [&] { digitar("."); },
+        [&] { digitar("7"); },
+        [&] { colar("3,4\n"); },
+        [&] { QTest::keyClick(caixa, Qt::Key_Backspace); },
+        [&] { QTest::keyClick(caixa, Qt::Key_Home); },
+        [&] { QTest::keyClick(caixa, Qt::Key_Right, Qt::ShiftModifier); },
+        [&] { QTest::keySequence(caixa, QKeySequence{QKeySequence::Undo}); },
+        [&] { QTest::keySequence(caixa, QKeySequence{QKeySequence::Undo}); },
+        [&] { QTest::keySequence(caixa, QKeySequence{QKeySequence::Redo}); },
+    };
+    for (int k = 0; k < 5000; ++k) {
+        mãos[sorteio() % mãos.size()]();
+        ASSERT_EQ(form7->Text1.texto, caixa->text().toStdString()) << k;
+        if (caixa->text().size() > 12) caixa->selectAll();
+    }
 }
 
 TEST_F(Digitação, desfazer_vai_além_do_segundo_sinal) {
