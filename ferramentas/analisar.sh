@@ -24,7 +24,7 @@ echo "== clang-tidy"
 # warnings it left out, those of other people's headers, it says on the other stream for each source.
 cmake -S . -B build/analise -G Ninja -DCMAKE_CXX_COMPILER=clang++ -DCMAKE_BUILD_TYPE=Release \
     -DCMAKE_DISABLE_PRECOMPILE_HEADERS=ON -DVARENTA_TESTES=OFF >/dev/null
-cmake --build build/analise --target varenta_janelas_autogen >/dev/null
+cmake --build build/analise --target varenta_janelas_autogen -- --quiet
 git ls-files -z 'src/*.cpp' |
     xargs -0 -n 1 -P 2 clang-tidy -p build/analise --quiet --header-filter="^$raiz/src/" \
         2> >(grep -Ev '^[0-9]+ warnings? generated\.$' >&2)
