@@ -285,7 +285,8 @@ TEST(Busca, OPassoMaisCurtoÉTentadoEAbandonadoMesmoQueDesça) {
 TEST(Busca, OFimDaParábolaSóValeSeForMenorQueOPasso) {
     // From 5 the step of 1 leads to 4 and that of 1/2 to 3: c1 = -4, c2 = 2, c3 = 6, and the parabola's end
     // is 0.5 (0.5 + 4/6) away. Worth 4 as well, it doesn't take the place of the step.
-    for (const auto& [noFim, passo] : {std::pair{4.0, 1.0}, {3.9, 0.5 * (0.5 + 4.0 / 6)}}) {
+    const double tau = 0.5 * (0.5 + 4.0 / 6);
+    for (const double noFim : {4.0, 3.9}) {
         BuscaPorEtapas b;
         b.buscar(
             [&](const Parametros& p) {
@@ -293,9 +294,9 @@ TEST(Busca, OFimDaParábolaSóValeSeForMenorQueOPasso) {
                 return t < 0.55 ? 3 : t < 0.9 ? noFim : 4;
             },
             1e-5);
-        EXPECT_NEAR(b.sós[2][0], b.início() - 0.5 * (0.5 + 4.0 / 6), 1e-12);
+        EXPECT_NEAR(b.sós[2][0], b.início() - tau, 1e-12);
         ASSERT_GT(b.gradientes.size(), 1u);
-        EXPECT_NEAR(b.gradientes[1][0], b.início() - passo + 0.001, 1e-12);
+        EXPECT_NEAR(b.gradientes[1][0], b.início() - (noFim < 4 ? tau : 1) + 0.001, 1e-12);
     }
 }
 

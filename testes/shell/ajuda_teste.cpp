@@ -34,9 +34,17 @@ struct BotãoDeAjuda {
 
 TEST_F(Ajuda, CadaBotãoPedeOTópicoDaSuaTela) {
     for (const auto& [nome, botão, tópico] : {BotãoDeAjuda{"form1", "Command2", 10},
+                                              {"form_AjVen", "Command2", 11},
+                                              {"Form_AjvenOu", "Command2", 12},
                                               {"Form7", "Command5", 14},
                                               {"Form4", "Command1", 15},
                                               {"Form5", "Command4", 16},
+                                              {"PerfilForm", "Command5", 17},
+                                              {"Perfil", "Command3", 18},
+                                              {"Form_MiE1", "Command3", 21},
+                                              {"Form_MiE2", "Command3", 21},
+                                              {"Form_MiE3", "Command3", 21},
+                                              {"FormUnifo", "Command1", 22},
                                               {"Form9", "Command4", 23}}) {
         auto* tela = telaDeNome(nome);
         tela->mostrar();
