@@ -180,6 +180,7 @@ class Macaco : public QObject, private LeituraDeVolta {
         if (paraLer_) return true;
         const bool sim = !acaso_.umEm(4);
         escriba_.anotarResposta(sim);
+        if (!sim) salvo_.reset(); // a file that is there already stays as it is
         return sim;
     }
 
