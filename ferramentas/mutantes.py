@@ -355,6 +355,8 @@ class Oficina:
         palavras = [str(novo) if p == programa else objetos.get(p, p) for p in comando]
         primeira = next(i for i, palavra in enumerate(palavras) if palavra.endswith(".a"))
         palavras[primeira:primeira] = membros
+        # Where the fault does away with a symbol that others ask for, the library's member comes in besides.
+        palavras.append("-Wl,--allow-multiple-definition")
         estado, saida = self._executar(palavras, 120)
         if estado != 0:
             raise Falhou(f"{programa} não liga: {saida[-1500:]}")
