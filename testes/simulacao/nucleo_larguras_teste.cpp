@@ -414,7 +414,8 @@ void compararConjuntos(const Pontos& p, const CondiçõesDoPonto& c,
 
 TEST(NucleoLarguras, VáriosConjuntosDeParâmetrosDãoOQueCadaUmDá) {
     Sorteio sorteio{2029};
-    int inteiros = 0, falhos = 0;
+    const auto larguras = largurasDisponíveis().size();
+    std::size_t inteiros = 0, falhos = 0;
     for (int vez = 0; vez < 300; ++vez) {
         const bool absurdos = umaEm(sorteio, 3);
         auto c = sortearComuns(sorteio, 8);
@@ -432,8 +433,8 @@ TEST(NucleoLarguras, VáriosConjuntosDeParâmetrosDãoOQueCadaUmDá) {
             ++(falhou ? falhos : inteiros);
         }
     }
-    EXPECT_GT(inteiros, 500);
-    EXPECT_GT(falhos, 50);
+    EXPECT_GT(inteiros, 200 * larguras);
+    EXPECT_GT(falhos, 20 * larguras);
 }
 
 TEST(NucleoLarguras, ConjuntosQueEnchemUmVetorVãoDeUmaVez) {
