@@ -194,6 +194,8 @@ void Interprete::executarLinhas(std::string_view texto) {
         auto linha = texto.substr(0, quebra);
         texto.remove_prefix(std::min(quebra + 1, texto.size()));
         if (linha.ends_with('\r')) linha.remove_suffix(1);
+        // No message that repeats a word would come out whole, and no keyboard types it.
+        if (linha.find('\0') != std::string_view::npos) throw ErroDeRoteiro{"a linha tem um caractere nulo"};
         if (const auto palavras = separarPalavras(linha); !palavras.empty()) executarComando(palavras);
     }
 }

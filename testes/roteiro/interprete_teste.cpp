@@ -47,6 +47,11 @@ TEST_F(InterpreteTexto, ParaNoPrimeiroErroEGuardaOQueJáMostrou) {
     EXPECT_EQ(execução.erros, "caso.roteiro:2: comando desconhecido: fazer\n");
 }
 
+TEST_F(InterpreteTexto, AcusaUmCaractereNulo) {
+    using namespace std::string_literals;
+    EXPECT_EQ(erroDe("foco\nmostrar \0Bancada.caixa\n"s), "caso.roteiro:2: a linha tem um caractere nulo\n");
+}
+
 TEST_F(InterpreteTexto, AcusaAspasSemFechamento) {
     EXPECT_EQ(erroDe("digitar Bancada.caixa \"x"), "caso.roteiro:1: aspas sem fechamento\n");
 }
