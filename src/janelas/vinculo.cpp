@@ -449,6 +449,7 @@ void Vinculo::darFocoInicial() {
 }
 
 void Vinculo::descartar() {
+    descartado_ = true;
     janela_.hide();
     janela_.deleteLater();
 }
@@ -513,6 +514,8 @@ void Vinculo::apertarBotãoPadrão() {
 }
 
 bool Vinculo::eventFilter(QObject* objeto, QEvent* evento) {
+    // What was on its way to a window that is gone is nobody's. Who owned it may be gone by then, too.
+    if (descartado_) return false;
     switch (evento->type()) {
     case QEvent::Close:
         if (objeto != &janela_) break;

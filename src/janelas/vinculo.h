@@ -62,4 +62,5 @@ class Vinculo : public QObject {
     QWidget* comFoco_ = nullptr;
     LinhaDeEstado* estado_ = nullptr;
     bool estavaVisível_ = false;
+    bool descartado_ = false;
 };

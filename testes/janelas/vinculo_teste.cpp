@@ -5,6 +5,7 @@
 #include "janelas/widget_tabela.h"
 
 #include <QCheckBox>
+#include <QCloseEvent>
 #include <QComboBox>
 #include <QGroupBox>
 #include <QLabel>
@@ -261,6 +262,19 @@ TEST_F(NaTelaDeTeste, a_tela_descarregada_leva_a_janela_e_a_nova_mostra_o_novo_r
     telaDeTeste->tabela.escrever(1, 1, "novo");
     janelas->atualizar();
     EXPECT_EQ(w<WidgetTabela>("tabela").model()->index(0, 0).data(), "novo");
+}
+
+TEST_F(NaTelaDeTeste, o_que_ainda_chega_a_uma_janela_descartada_não_alcança_a_nova) {
+    auto& antiga = janela(telaDeTeste);
+    telaDeTeste.descarregar();
+    janelas->atualizar();
+    telaDeTeste.mostrar();
+    janelas->atualizar();
+    QCloseEvent fecha;
+    QApplication::sendEvent(&antiga, &fecha);
+    EXPECT_TRUE(telaDeTeste.carregada());
+    QApplication::sendEvent(&janela(telaDeTeste), &fecha);
+    EXPECT_FALSE(telaDeTeste.carregada());
 }
 
 TEST_F(NaTelaDeTeste, uma_tela_recarregada_enquanto_escondida_mostra_o_novo_registro) {
