@@ -1,6 +1,7 @@
 #include "comum/atos.h"
 
 #include "comum/ajuda.h"
+#include "comum/limites.h"
 #include "comum/operacoes.h"
 #include "comum/planilha.h"
 
@@ -111,6 +112,8 @@ void escolher(const Alvo& alvo, std::string_view texto) {
 }
 
 void digitar(const Alvo& alvo, std::string texto) {
+    // Saved, it would be a line that no reader takes.
+    if (texto.size() > maiorLinha) throw AtoRecusado{alvo.nomeCompleto() + " não admite um texto tão longo"};
     if (!listaDigitada || listaDigitada->elemento.endereço() != alvo.elemento.endereço()) deixarControle();
     if (std::holds_alternative<Lista*>(alvo.elemento.controle)) {
         auto& lista = exigir<Lista>(alvo, "digitação");

@@ -61,8 +61,8 @@ void clicar(const Alvo& alvo);
 /// Picks the item of a list with that text.
 void escolher(const Alvo& alvo, std::string_view texto);
 
-/// Replaces the text of a text box, or of a list that admits typing. The next act that leaves a
-/// list takes its text over.
+/// Replaces the text of a text box, or of a list that admits typing, by one of at most `maiorLinha` bytes.
+/// The next act that leaves a list takes its text over.
 void digitar(const Alvo& alvo, std::string texto);
 
 /// Whether a list holds a typed text that was not taken over yet.

@@ -11,8 +11,9 @@ namespace varenta {
 /// below has some 20 MB.
 inline constexpr std::size_t maiorArquivo = std::size_t{64} << 20;
 
-/// Bytes of a line of a text file. The widest row of readings has some 100 kB; a longer line is no text of
-/// this system, and would go into a box of a screen whole.
+/// Bytes of a line of a text file, and of a text typed into a box, which would be one. The widest row of
+/// readings has some 100 kB; a longer line is no text of this system, and would go into a box of a screen
+/// whole.
 inline constexpr std::size_t maiorLinha = std::size_t{1} << 20;
 
 /// Data rows, and data columns, of a grid that takes entries. A test in the field has some dozens.

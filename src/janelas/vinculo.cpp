@@ -1,6 +1,7 @@
 #include "janelas/vinculo.h"
 
 #include "comum/atos.h"
+#include "comum/limites.h"
 #include "comum/planilha.h"
 #include "janelas/comandos_da_figura.h"
 #include "janelas/janelas.h"
@@ -195,6 +196,8 @@ struct Vinculo::Ligar {
     }
 
     void digitarEm(QLineEdit& caixa) const {
+        // A box cuts off what is longer, and the first key in it would take that from the record, too.
+        caixa.setMaxLength(static_cast<int>(maiorLinha));
         const auto* digitado = new TextoDigitado{caixa};
         QObject::connect(digitado, &TextoDigitado::mudou, &v, [v = &v, nome = nome](const QString& texto) {
             v->agir(nome, [&](const Alvo& alvo) { atos::digitar(alvo, texto.toStdString()); });

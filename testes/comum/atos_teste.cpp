@@ -2,6 +2,7 @@
 
 #include "apoio/atalhos.h"
 #include "apoio/tela_de_teste.h"
+#include "comum/limites.h"
 #include "shell/form3.h"
 
 namespace varenta::teste {
@@ -143,6 +144,19 @@ TEST_F(Atos, QualquerAtoSeguinteSoltaOPolegarAntesDeAgir) {
     exigeSolto([&] { atos::moverMouse(em("desenhoMudo"), 0, 0); }, {});
     exigeSolto([&] { atos::moverMouse(telaDeTeste); }, {"mouse na tela"});
     exigeSolto([&] { atos::fechar(telaDeTeste); }, {});
+}
+
+TEST_F(Atos, UmTextoMaiorDoQueUmaLinhaDeArquivoNãoÉDigitado) {
+    const std::string maior(maiorLinha, 'x');
+    atos::digitar(em("caixa"), maior);
+    EXPECT_TRUE(telaDeTeste->caixa.texto == maior);
+    eventos.clear();
+    EXPECT_EQ(recusaDe([&] { atos::digitar(em("caixa"), maior + "x"); }),
+              "TelaDeTeste.caixa não admite um texto tão longo");
+    EXPECT_EQ(recusaDe([&] { atos::digitar(em("listaDigitável"), maior + "x"); }),
+              "TelaDeTeste.listaDigitável não admite um texto tão longo");
+    EXPECT_TRUE(telaDeTeste->caixa.texto == maior);
+    EXPECT_EQ(eventos, Eventos{});
 }
 
 TEST_F(Atos, PolegarDeUmaTelaDescarregadaÉEsquecido) {

@@ -1,15 +1,19 @@
 #include "com_janelas.h"
 
 #include "ajuste/form_ajvenou.h"
+#include "apoio/pasta_temporaria.h"
 #include "aspersor/perfil.h"
 #include "aspersor/perfil_form.h"
 #include "campo/form_ec.h"
 #include "campo/form_unifo.h"
+#include "comum/limites.h"
 #include "janelas/widget_desenho.h"
 #include "janelas/widget_tabela.h"
 #include "shell/form6.h"
 
+#include <QClipboard>
 #include <QComboBox>
+#include <QFile>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -144,6 +148,34 @@ TEST_F(JanelasDosEnsaios, um_arquivo_aberto_prende_o_tamanho_da_planilha_até_di
     EXPECT_EQ(livres(), 0);
     clicar(formEC, "Option1");
     EXPECT_EQ(livres(), 4);
+}
+
+TEST_F(JanelasDosEnsaios, o_maior_texto_que_um_arquivo_traz_cabe_inteiro_nas_caixas) {
+    QFile bom{exemplo("ensaio_movel_mm.txt")};
+    ASSERT_TRUE(bom.open(QIODevice::ReadOnly));
+    auto linhas = bom.readAll().split('\n');
+    linhas[0].fill('x', maiorLinha - 1);
+    const PastaTemporaria pasta;
+    const auto caminho = pasta.gravar("longo.txt", linhas.join('\n').toStdString());
+    clicarMenu("EnsCampo");
+    respostas = {true};
+    arquivos = {QString::fromStdString(caminho)};
+    clicar(formEC, "Option2");
+    EXPECT_TRUE(caixas.back().contains("txt")) << caixas.back().toStdString();
+    EXPECT_EQ(formEC->Text6.texto.size(), maiorLinha - 1);
+    EXPECT_TRUE(widget<QLineEdit>(formEC, "Text6").text() == QString::fromStdString(formEC->Text6.texto));
+    // What is typed into it doesn't cut it off.
+    auto& caixa = widget<QLineEdit>(formEC, "Text6");
+    caixa.setFocus(Qt::TabFocusReason);
+    QTest::keyClick(&caixa, Qt::Key_End);
+    QTest::keyClick(&caixa, Qt::Key_Backspace);
+    EXPECT_EQ(formEC->Text6.texto.size(), maiorLinha - 2);
+    // More than a line of a file holds, which counts bytes, is not taken.
+    QGuiApplication::clipboard()->setText(QString{maiorLinha, QChar{u'ã'}});
+    QTest::keyClick(&caixa, Qt::Key_A, Qt::ControlModifier);
+    QTest::keyClick(&caixa, Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(formEC->Text6.texto.size(), maiorLinha - 2);
+    EXPECT_TRUE(caixa.text() == QString::fromStdString(formEC->Text6.texto));
 }
 
 TEST_F(JanelasDosEnsaios, o_mouse_lê_o_perfil_radial) {
