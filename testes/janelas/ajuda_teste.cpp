@@ -122,10 +122,10 @@ std::vector<Literal> literaisDoPrograma() {
             const auto achado = achados.next();
             auto texto = achado.captured();
             if (texto.startsWith(QLatin1Char{'/'})) continue;
+            texto = texto.sliced(1, texto.size() - 2);
             texto.replace(emendas, {}).replace(QLatin1String{"\\\""}, QLatin1String{"\""});
             texto.replace(QLatin1String{"\\n"}, QLatin1String{" "});
-            literais.push_back(
-                {texto.sliced(1, texto.size() - 2), fonte.first(achado.capturedStart()).right(60).trimmed()});
+            literais.push_back({texto, fonte.first(achado.capturedStart()).right(60).trimmed()});
         }
     }
     return literais;
