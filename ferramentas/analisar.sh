@@ -3,7 +3,7 @@
 set -euo pipefail
 . "$(dirname "$0")/preparar.sh"
 
-instalar "${pacotes_de_construcao[@]}" "${pacotes_longos[@]}"
+instalar "${pacotes_de_construcao[@]}" "${pacotes_de_teste[@]}" "${pacotes_longos[@]}"
 raiz=$PWD
 mkdir -p build/analise
 

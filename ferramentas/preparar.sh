@@ -32,6 +32,12 @@ instalar() {
 pacotes_de_construcao=(g++ cmake ninja-build qt6-base-dev qt6-svg-dev libgl-dev qt6-translations-l10n
     fonts-dejavu-core)
 pacotes_de_teste=(libgtest-dev clang-format locales groff-base desktop-file-utils appstream
-    shared-mime-info)
+    shared-mime-info clang libclang-rt-14-dev)
 # What the long form of ./testar and the scripts that it calls ask for besides.
-pacotes_longos=(gcovr clang clang-tidy cppcheck libclang-rt-14-dev libbenchmark-dev)
+pacotes_longos=(gcovr clang-tidy cppcheck libbenchmark-dev)
+
+# build/verificadores: everything under the sanitizers, with the fuzzers, which clang alone makes.
+configurar_verificadores() {
+    cmake -S . -B build/verificadores -G Ninja -DCMAKE_CXX_COMPILER=clang++ -DCMAKE_BUILD_TYPE=Debug \
+        -DCMAKE_CXX_FLAGS_DEBUG=-O1 -DVARENTA_SANITIZAR=ON >/dev/null
+}

@@ -24,7 +24,7 @@ class Acaso {
     int entre(int menor, int maior) { return std::uniform_int_distribution{menor, maior}(sorteio_); }
     template <class Sequência>
     const auto& algumDe(const Sequência& sequência) {
-        return sequência[até(std::size(sequência))];
+        return std::data(sequência)[até(static_cast<std::size_t>(std::size(sequência)))];
     }
 
     /// A text for a box or a cell, one half of them small numbers.

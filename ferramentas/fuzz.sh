@@ -1,11 +1,11 @@
 #!/usr/bin/env bash
-# Fuzzes every reader: ./ferramentas/fuzz_longo.sh 60s (so many seconds each) or 100000 (so many executions each, and
+# Fuzzes every reader: ./ferramentas/fuzz.sh 60s (so many seconds each) or 100000 (so many executions each, and
 # forty times as many of both conversions of text to number, which are that much quicker).
 # Two at a time. Prints the executions of each; what fails is kept in build/fuzz/achados/, and the status is 1.
 set -euo pipefail
 . "$(dirname "$0")/preparar.sh"
 
-instalar "${pacotes_de_construcao[@]}" "${pacotes_longos[@]}"
+instalar "${pacotes_de_construcao[@]}" "${pacotes_de_teste[@]}"
 
 quanto=${1:-60s}
 ensaios=(campo roteiro movel malha radial parametros prefixo estrito)
@@ -22,16 +22,15 @@ limite() {
     esac
 }
 
-cmake -S . -B build/fuzz -G Ninja -DCMAKE_CXX_COMPILER=clang++ -DCMAKE_BUILD_TYPE=Debug \
-    -DCMAKE_CXX_FLAGS_DEBUG=-O1 -DVARENTA_FUZZ=ON -DVARENTA_TESTES=OFF -DVARENTA_JANELAS=OFF >/dev/null
-cmake --build build/fuzz
+configurar_verificadores
+cmake --build build/verificadores --target "${ensaios[@]/#/fuzz_}"
 mkdir -p build/fuzz/achados
 
 fuzzar() {
     local ensaio=$1 registro=build/fuzz/$1.log
     mkdir -p "build/fuzz/novos/$ensaio"
     # Short inputs reach everything and run sooner. Leaks are looked for where the tests run under the sanitizers.
-    ASAN_OPTIONS=malloc_context_size=1 "build/fuzz/testes/fuzz/fuzz_$ensaio" "$(limite "$ensaio")" -max_len=600 -timeout=20 \
+    ASAN_OPTIONS=malloc_context_size=1 "build/verificadores/testes/fuzz/fuzz_$ensaio" "$(limite "$ensaio")" -max_len=600 -timeout=20 \
         -rss_limit_mb=2048 -detect_leaks=0 -entropic=0 -verbosity=0 -print_final_stats=1 \
         -artifact_prefix="build/fuzz/achados/$ensaio-" "build/fuzz/novos/$ensaio" "testes/fuzz/corpos/$ensaio" \
         >"$registro" 2>&1 || { echo "$ensaio: falhou" && grep -v '^stat::' "$registro" | head -40 && return 1; }
