@@ -46,8 +46,10 @@ namespace varenta::teste {
 namespace {
 
 // Too few starts tell nothing of the memory.
-constexpr std::ptrdiff_t menosInícios = 10;
-constexpr double maiorCrescimento = 512; // bytes an act
+constexpr std::ptrdiff_t menosInícios = 30;
+// What Qt keeps of its own, glyphs above all, fills up in the course of the first 100,000 acts.
+constexpr double maisGuardado = 3 << 20;
+constexpr double maiorCrescimento = 8; // bytes an act
 
 /// What went wrong first since it was asked last; Qt's own warnings count.
 std::string falha;
@@ -260,7 +262,6 @@ class Macaco : public QObject, private LeituraDeVolta {
         encerrar();
         if (!QApplication::topLevelWidgets().isEmpty()) acusar("windows left over at the end");
         QGuiApplication::clipboard()->clear();
-        QPixmapCache::clear();
         escriba_.recomeçar();
         exame_.esquecer();
         const auto uso = ::mallinfo2();
@@ -314,14 +315,18 @@ class Macaco : public QObject, private LeituraDeVolta {
 /// least that was in use counts: from the second third of the run to the last it must not grow as it would
 /// with windows, or parts of them, left behind.
 std::string exameDaMemória(const std::vector<double>& usos, long atos) {
-    const auto terço = static_cast<std::ptrdiff_t>(usos.size() / 3);
-    if (terço < menosInícios) return {};
-    const double meio = *std::min_element(usos.begin() + terço, usos.begin() + 2 * terço);
-    const double fim = *std::min_element(usos.begin() + 2 * terço, usos.end());
-    const double porAto = 3 * (fim - meio) / static_cast<double>(atos);
-    std::printf("in use without windows: %.0f KiB in the middle, %.0f KiB at the end, %.0f bytes an act\n",
-                meio / 1024, fim / 1024, porAto);
-    return porAto > maiorCrescimento ? "memory grows" : "";
+    const auto inícios = static_cast<std::ptrdiff_t>(usos.size());
+    if (inícios < menosInícios) return {};
+    const auto menor = [&](std::ptrdiff_t parte, std::ptrdiff_t partes) {
+        return *std::min_element(usos.begin() + parte * inícios / partes,
+                                 usos.begin() + (parte + 1) * inícios / partes);
+    };
+    std::printf("in use without windows, the least of each tenth, KiB:");
+    for (std::ptrdiff_t parte = 0; parte < 10; ++parte) std::printf(" %.0f", menor(parte, 10) / 1024);
+    const double crescimento = menor(2, 3) - menor(1, 3);
+    std::printf("; %.0f bytes an act\n", 3 * crescimento / static_cast<double>(atos));
+    return crescimento > maisGuardado + maiorCrescimento * static_cast<double>(atos) / 3 ? "memory grows"
+                                                                                         : "";
 }
 
 int executarMacaco(long atos, unsigned semente) {
@@ -353,6 +358,8 @@ int main(int quantos, char** argumentos) {
     // What a list looks for while one types, and a cursor that blinks, hang on the clock.
     QApplication::setKeyboardInputInterval(0);
     QApplication::setCursorFlashTime(0);
+    // The style would keep the pictures of parts of every size, as much as counts as memory that grows.
+    QPixmapCache::setCacheLimit(0);
     qInstallMessageHandler(varenta::teste::ouvirOQt);
     const long atos = quantos > 1 ? std::atol(argumentos[1]) : 10'000;
     const auto semente =
