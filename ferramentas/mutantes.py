@@ -192,7 +192,7 @@ def trocas(fonte):
         if m_[a:b].strip().startswith("\x01") != m_[c:d].strip().startswith("\x01"):
             continue
         # Parameters of a declaration: a type and a name.
-        if primeiro != segundo and not re.search(r"^(const )?[\w:<>]+[\s&*]+\w+$", primeiro):
+        if primeiro != segundo and not re.search(r"^(const )?[\w:<> ]+[\s&*]+\w+$", primeiro):
             yield a, d, "argumentos trocados", f"{segundo}, {primeiro}"
     for m in re.finditer(r"[;{})]\s*(?=[\w*(+-])", m_):
         inicio = m.end()

@@ -37,7 +37,6 @@ void fecharTelas() {
 void iniciarSistema() {
     fecharTelas();
     form3.descarregar();
-    controleComFoco = nullptr;
     telaPrincipal = &form3;
     form3.mostrar();
 }

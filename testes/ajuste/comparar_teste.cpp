@@ -114,6 +114,8 @@ TEST_F(ComparaçãoDoAjuste, OsParâmetrosVoltamDasLegendasVezesOAlcance) {
 TEST_F(ComparaçãoDoAjuste, AListaMostraOEstimadoESeSalva) {
     malhaDeQuatro(2, {"5", "7", "8", "6"});
     form_E(2)->Label20.texto = "ASPERSOR: Meu";
+    form_E(2)->Label19.texto = "Bocais: 20 x 7 mm";
+    form_E(2)->Label18.texto = "Pressão: 45 m.c.a.";
     comparar("Command9");
     EXPECT_FALSE(form_graf(2)->Command2.visivel);
     EXPECT_FALSE(form_graf(2)->Command1.visivel);
@@ -123,6 +125,8 @@ TEST_F(ComparaçãoDoAjuste, AListaMostraOEstimadoESeSalva) {
     EXPECT_EQ(f.Caption, "Dados de Precipitação Estimados no Ensaio 2");
     EXPECT_EQ(f.Frame4.texto, "Dados Estimados - Ensaio 2");
     EXPECT_EQ(f.Label20.texto, "ASPERSOR: Meu");
+    EXPECT_EQ(f.Label19.texto, "Bocais: 20 x 7 mm");
+    EXPECT_EQ(f.Label18.texto, "Pressão: 45 m.c.a.");
     EXPECT_EQ(f.Label17.texto, "0.0");
     EXPECT_EQ(f.Label2.texto, "45");
     EXPECT_EQ(f.flex_A.célula(0, 1), " Co1 = -3.0 m ");

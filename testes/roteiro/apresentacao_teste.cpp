@@ -65,6 +65,14 @@ TEST_F(Apresentacao, DesenhoPeloNomeMostraCadaTraçoNaOrdem) {
                                                   "arco 10 20 5 #000000 0 6.283185307179586 2 não\n");
 }
 
+TEST_F(Apresentacao, MosaicoSãoAsSuasCaixas) {
+    bancada->desenho.mosaico({10, 20, 3, 4, 2, {cores::vermelho, cores::azul, cores::preto}});
+    EXPECT_EQ(saídaDe("mostrar Bancada.desenho"), "Bancada.desenho: 0 linhas, 3 caixas, 0 arcos\n"
+                                                  "caixa 10 20 13 24 #ff0000\n"
+                                                  "caixa 13 20 16 24 #0000ff\n"
+                                                  "caixa 10 24 13 28 #000000\n");
+}
+
 TEST_F(Apresentacao, NúmeroDoTraçoTemAFormaMaisCurtaQueRelidaDáOMesmoDouble) {
     struct Caso {
         double valor;

@@ -63,19 +63,27 @@ TEST_F(InterpreteTexto, PalavrasAMaisOuAMenosLembramOUsoDoComando) {
         {"escolher Bancada.lista", "escolher Tela.Controle TEXTO"},
         {"escolher Bancada.lista dois e meio", "escolher Tela.Controle TEXTO"},
         {"digitar Bancada.caixa", "digitar Tela.Controle TEXTO"},
+        {"digitar Bancada.caixa a b", "digitar Tela.Controle TEXTO"},
         {"rolar Bancada.rolagem", "rolar Tela.Controle VALOR"},
+        {"rolar Bancada.rolagem 1 2", "rolar Tela.Controle VALOR"},
+        {"arrastar Bancada.rolagem", "arrastar Tela.Controle VALOR"},
         {"arrastar Bancada.rolagem 1 2", "arrastar Tela.Controle VALOR"},
         {"celula Bancada.grade 1 1", "celula Tela.Grade LINHA COLUNA TEXTO"},
+        {"celula Bancada.grade 1 1 2 3", "celula Tela.Grade LINHA COLUNA TEXTO"},
         {"mover", "mover Tela.Desenho X Y, ou mover Tela"},
         {"mover Bancada.desenho 1", "mover Tela.Desenho X Y, ou mover Tela"},
+        {"mover Bancada.desenho 1 2 3", "mover Tela.Desenho X Y, ou mover Tela"},
         {"fechar", "fechar Tela"},
+        {"fechar Bancada Bancada", "fechar Tela"},
         {"responder", "responder sim, ou responder não"},
         {"responder talvez", "responder sim, ou responder não"},
         {"responder SIM", "responder sim, ou responder não"},
         {"arquivo", "arquivo CAMINHO, ou arquivo cancelar"},
         {"arquivo meus dados", "arquivo CAMINHO, ou arquivo cancelar"},
         {"mostrar", "mostrar Tela.Controle, ou mostrar Tela"},
+        {"mostrar Bancada.caixa Bancada", "mostrar Tela.Controle, ou mostrar Tela"},
         {"estado", "estado Tela.Controle"},
+        {"estado Bancada.caixa Bancada", "estado Tela.Controle"},
         {"foco Bancada", "foco"},
         {"telas Bancada", "telas"},
     };
@@ -464,6 +472,16 @@ TEST_F(InterpreteArquivo, SaídaQueNãoPodeSerGravadaÉFalha) {
         Interprete::falha);
     EXPECT_EQ(erros.str(), "a:2: a saída não pôde ser gravada\n");
     EXPECT_EQ(bancada->diário.texto, "");
+}
+
+TEST_F(InterpreteArquivo, OQueSeDizAoSoltarABarraNoFimTambémTemDeSerGravado) {
+    bancada->rolagem.aoMudar = [] { plataforma::mensagem("solta"); };
+    std::ofstream cheio{"/dev/full"};
+    ASSERT_TRUE(cheio);
+    std::ostringstream erros;
+    EXPECT_EQ((Interprete{cheio, erros}.executarTexto("arrastar Bancada.rolagem 7", "a", {})),
+              Interprete::falha);
+    EXPECT_EQ(erros.str(), "a:1: a saída não pôde ser gravada\n");
 }
 
 // Hooks

@@ -4,6 +4,7 @@
 #include "apoio/simulacao_feita_a_mao.h"
 #include "aspersor/form1.h"
 #include "shell/form3.h"
+#include "uniformidade/relatorios.h"
 
 namespace varenta::teste {
 namespace {
@@ -81,6 +82,8 @@ TEST_F(UniformidadeNoCentro, OsGráficosNascemSóComAMalha) {
     // 19 + 14 thin and 7 + 5 heavy lines; 22 + 14 and 8 + 5.
     EXPECT_EQ(form4->Picture2.traços.size(), 45u);
     EXPECT_EQ(form4->Picture1.traços.size(), 49u);
+    EXPECT_EQ(form4->Label22[0].texto, "0.0");
+    EXPECT_EQ(form4->Label23[0].texto, "0.0");
 }
 
 TEST_F(UniformidadeNoCentro, BotõesSeguemAOrdemDosCálculos) {
@@ -280,6 +283,13 @@ TEST_F(UniformidadeNoCentro, RelatórioSaiLetraPorLetra) {
                                             "24\t100.00\t100.00\t30.00\t\r\n"
                                             "\t\t\t\t\r\n"
                                             "\r\n");
+}
+
+TEST(LinhasDoRelatório, APrimeiraSemPrimeiraCélulaÉAÚltimaQueSai) {
+    Grade grade{.linhas = 3, .colunas = 2, .células = {"12", "99", "", "resto", "18", "98"}};
+    EXPECT_EQ(linhasDoRelatório(grade), "12\t99\t\r\n\tresto\t\r\n");
+    grade.escrever(1, 0, "15");
+    EXPECT_EQ(linhasDoRelatório(grade), "12\t99\t\r\n15\tresto\t\r\n18\t98\t\r\n\t\t\r\n");
 }
 
 TEST_F(UniformidadeNoCentro, SalvarDesistidoOuImpossívelNãoPerdeNada) {

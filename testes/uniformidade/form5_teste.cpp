@@ -143,6 +143,19 @@ TEST_F(AoLongoDaFaixa, OGráficoTemAsEscalasACurvaEAsMarcas) {
     exigir(traço(traçosDaMalha + 9), x(10), 217, x(10), 217 - 43.75, cores::vermelho);
 }
 
+TEST_F(AoLongoDaFaixa, UmaFaixaMaisLongaDoQueAMovimentaçãoTemAsMarcasForaDela) {
+    escolher("Combo1", "Outro Valor");
+    escolher("Combo2", "Outro Valor");
+    digitar("txtOutro", "2");
+    digitar("Text3", "1");
+    calcular();
+    ASSERT_EQ(form5->Picture2.traços.size(), traçosDaMalha + 8 + 2);
+    const double início = lerPrefixo(form5->Label33.front().texto),
+                 fim = lerPrefixo(form5->Label33.back().texto);
+    EXPECT_NEAR(traço(traçosDaMalha + 8).x1, 56 + 385 * (-2 - início) / (fim - início), 1e-9);
+    EXPECT_NEAR(traço(traçosDaMalha + 9).x1, 56 + 385 * (11 - início) / (fim - início), 1e-9);
+}
+
 TEST_F(AoLongoDaFaixa, IgualAoRaioNãoTemMarca) {
     escolher("Combo1", "Igual ao Raio");
     calcular();

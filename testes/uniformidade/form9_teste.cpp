@@ -110,6 +110,17 @@ TEST_F(Eficiências, OsEixosAlcançamTodasAsLâminasMostradas) {
     }
 }
 
+TEST_F(Eficiências, AbaixoDeZeroOPassoDoEixoÉOMenorDécimoInteiroQueCabe) {
+    analisarCom("200.00");
+    const double menor = lerPrefixo(linha(form9->flexA.linhas - 1)[1]), maior = lerPrefixo(linha(1)[1]);
+    ASSERT_LT(menor, 0);
+    const double passo = lerPrefixo(form9->Label26[1].texto) - lerPrefixo(form9->Label26[0].texto);
+    // The first tick lies up to a step below the least depth.
+    const auto divisões = static_cast<double>(form9->Label26.size()) - 2;
+    EXPECT_GT(passo * divisões, maior - menor);
+    EXPECT_LE((passo - 0.1) * divisões, maior - menor + 1e-9);
+}
+
 /// How far along the axis with these tick captions a depth lies, from 0 to 1.
 double fração(std::span<const Rotulo> rótulos, double Ir) {
     const double início = lerPrefixo(rótulos.front().texto), fim = lerPrefixo(rótulos.back().texto);

@@ -2,6 +2,7 @@
 #include "aspersor/form1.h"
 #include "simulacao/form7.h"
 #include "uniformidade/form4.h"
+#include "uniformidade/form5.h"
 
 namespace varenta::teste {
 namespace {
@@ -50,6 +51,16 @@ TEST_F(CentroDoMedido, OTítuloTemONomeDoAspersor) {
     perfilForm->Text7.texto = "Canhão A";
     clicar(form7, "Command9");
     EXPECT_EQ(form4.caption(), "Uniformidade no Centro da Faixa com Vento - Aspersor Canhão A");
+}
+
+TEST_F(CentroDoMedido, AFaixaMostraOsBotõesDoAspersorMedido) {
+    clicar(form7, "Command9");
+    for (const auto* botão : {"Command8", "Command9", "Command10"}) clicar(form4, botão);
+    ASSERT_TRUE(form5.visivel);
+    for (const auto* botão : {&form5->Command9, &form5->Command11, &form5->Command16})
+        EXPECT_TRUE(botão->visivel) << botão->texto;
+    for (const auto* botão : {&form5->Command10, &form5->Command12, &form5->Command15})
+        EXPECT_FALSE(botão->visivel) << botão->texto;
 }
 
 TEST_F(CentroDoMedido, VoltarEFecharSeguemOCaminho) {
