@@ -221,7 +221,9 @@ TEST(NucleoLarguras, DãoOsMesmosDoublesNasPontasDoSetorENosEixos) {
             const double perto = umaEm(sorteio, 2) ? 0 : std::pow(10, entre(sorteio, -17, -6));
             const double theta = radianos(pontas[sorteio() % 3]) + (umaEm(sorteio, 2) ? perto : -perto);
             const double d = entre(sorteio, 0.1, 1.1) * c.R;
-            const double xs = d * std::cos(theta), ys = -d * std::sin(theta);
+            // On an axis itself nothing is wetted.
+            const double xs = umaEm(sorteio, 8) ? 0 : d * std::cos(theta);
+            const double ys = umaEm(sorteio, 8) ? 0 : -d * std::sin(theta);
             p.juntar(xs * cosseno - ys * seno, ys * cosseno + xs * seno);
         }
         ASSERT_NO_FATAL_FAILURE(compararLarguras(p, c, cobertura));

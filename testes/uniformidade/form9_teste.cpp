@@ -133,6 +133,7 @@ TEST_F(Eficiências, OGráficoDaÁreaTemACurvaEstimadaEmAzulEOsPontosObservadosE
     ASSERT_EQ(traços.size(), malha1 + 23 + 24);
     const auto& curva = std::get<Linha>(traços[malha1]);
     EXPECT_EQ(curva.cor, cores::azul);
+    EXPECT_EQ(curva.largura, 2);
     EXPECT_NEAR(curva.x1, 67 + 350 * 0.50993, 0.01);
     EXPECT_NEAR(curva.x2, 67 + 350 * 0.52980, 0.01);
     EXPECT_NEAR(curva.y1, 217 - 210 * fração(form9->Label26, 59.0683), 0.001);
@@ -150,6 +151,7 @@ TEST_F(Eficiências, OGráficoDasEficiênciasTemUmaCurvaComPontosParaCadaUma) {
     const auto exigir = [&](std::size_t n, double eficiência, Cor cor) {
         const auto& curva = std::get<Linha>(traços[n]);
         EXPECT_EQ(curva.cor, cor);
+        EXPECT_EQ(curva.largura, 2);
         EXPECT_NEAR(curva.x1, 67 + 350 * fração(form9->Label27, 59.0683), 0.001);
         EXPECT_NEAR(curva.y1, 217 - 210 * eficiência / 100, 0.001);
         const auto& ponto = std::get<Arco>(traços[n + 23]);
