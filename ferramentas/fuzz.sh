@@ -29,8 +29,8 @@ mkdir -p build/fuzz/achados
 fuzzar() {
     local ensaio=$1 registro=build/fuzz/$1.log
     mkdir -p "build/fuzz/novos/$ensaio"
-    # Short inputs reach everything and run sooner. Leaks are looked for where the tests run under the sanitizers.
-    ASAN_OPTIONS=malloc_context_size=1 "build/verificadores/testes/fuzz/fuzz_$ensaio" "$(limite "$ensaio")" -max_len=600 -timeout=20 \
+    # The longest sample has some 3 kB. Leaks are looked for where the tests run under the sanitizers.
+    ASAN_OPTIONS=malloc_context_size=1 "build/verificadores/testes/fuzz/fuzz_$ensaio" "$(limite "$ensaio")" -max_len=4096 -timeout=20 \
         -rss_limit_mb=2048 -detect_leaks=0 -entropic=0 -verbosity=0 -print_final_stats=1 \
         -artifact_prefix="build/fuzz/achados/$ensaio-" "build/fuzz/novos/$ensaio" "testes/fuzz/corpos/$ensaio" \
         >"$registro" 2>&1 || { echo "$ensaio: falhou" && grep -v '^stat::' "$registro" | head -40 && return 1; }

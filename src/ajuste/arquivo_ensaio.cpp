@@ -76,13 +76,10 @@ std::vector<std::string> lerLinhaDeLeituras(const std::string& linha, int coluna
 
 /// The rest of the file: so many rows of so many readings.
 std::vector<std::vector<std::string>> lerLeituras(LeitorDeLinhas& leitor, int linhas, int colunas) {
-    std::vector<std::string> restantes;
-    while (!leitor.fim()) restantes.push_back(leitor.próxima());
-    while (!restantes.empty() && emBranco(restantes.back())) restantes.pop_back();
-
     const auto quantas = static_cast<std::size_t>(linhas);
     std::vector<std::vector<std::string>> leituras;
-    for (const auto& linha : restantes) {
+    while (!leitor.sóRestaBranco()) {
+        const auto linha = leitor.próxima();
         if (leituras.size() == quantas) throw EnsaioRecusado{grandeDemais};
         leituras.push_back(lerLinhaDeLeituras(linha, colunas));
     }
@@ -138,11 +135,17 @@ ArquivoMóvelComVento lerMóvel(LeitorDeLinhas& leitor) {
 /// Whatever else goes wrong while a file is read is a file that can't be opened.
 template <class Arquivo>
 Arquivo lerArquivo(const std::string& caminho, Arquivo (*ler)(LeitorDeLinhas&)) {
+    LeitorDeLinhas leitor;
     try {
-        LeitorDeLinhas leitor{caminho};
-        return ler(leitor);
-    } catch (const ErroExecucao&) {
-        recusar();
+        try {
+            leitor.abrir(caminho);
+            return ler(leitor);
+        } catch (const ErroExecucao&) {
+            recusar();
+        }
+    } catch (EnsaioRecusado& recusa) {
+        recusa.onde = leitor.onde();
+        throw;
     }
 }
 

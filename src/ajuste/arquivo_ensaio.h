@@ -8,10 +8,11 @@
 /// grid, separated by tabs. Blank lines at the end are passed over.
 namespace varenta {
 
-/// A file that is no test, with the message that answers it.
-class EnsaioRecusado : public std::runtime_error {
-  public:
-    using std::runtime_error::runtime_error;
+/// A file that is no test, with the message that answers it and, once it left the reader, where in the file.
+struct EnsaioRecusado : std::runtime_error {
+    explicit EnsaioRecusado(const std::string& mensagem) : std::runtime_error{mensagem} {}
+
+    std::string onde;
 };
 
 /// What both kinds of file have in common.

@@ -74,7 +74,6 @@ void voltarAosPadrões(int n) {
 
 void preencher(int n, const ArquivoDeMalha& arquivo) {
     auto& f = *form_E(n).operator->();
-    escreverAspersorDoArquivo(f, arquivo);
     definirTexto(f.Combo2, std::to_string(arquivo.N));
     definirTexto(f.Combo1, Format(arquivo.e, "0.0"));
     definirValor(f.HScroll2, paraInteiro(arquivo.W * 10));
@@ -84,6 +83,7 @@ void preencher(int n, const ArquivoDeMalha& arquivo) {
     definirTexto(f.Text7, arquivo.diâmetro);
     Erro_plan(n);
     escreverLeituras(f.flex_A, arquivo.leituras);
+    escreverAspersorDoArquivo(f, arquivo);
     mostrarEntrada(f, false);
 }
 
@@ -93,8 +93,11 @@ void abrirArquivo(int n) {
         try {
             preencher(n, lerArquivoDeMalha(caminho));
         } catch (const EnsaioRecusado& recusa) {
-            plataforma::mensagem(recusa.what());
+            plataforma::mensagem(recusa.what(), recusa.onde);
             voltarAosPadrões(n);
+        } catch (...) {
+            voltarAosPadrões(n);
+            throw;
         }
     });
 }

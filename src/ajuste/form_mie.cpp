@@ -77,7 +77,6 @@ void voltarAosPadrões(int n) {
 
 void preencher(int n, const ArquivoMóvelComVento& arquivo) {
     auto& f = *form_MiE(n).operator->();
-    escreverAspersorDoArquivo(f, arquivo);
     definirTexto(f.Text1, arquivo.velocidade);
     definirTexto(f.Combo6, paraTexto(arquivo.anguloGiro));
     definirTexto(f.Combo1, std::to_string(arquivo.linhas));
@@ -90,6 +89,7 @@ void preencher(int n, const ArquivoMóvelComVento& arquivo) {
     definirTexto(f.Text7, arquivo.diâmetro);
     MIErro_plan(n);
     escreverLeituras(f.flex_A, arquivo.leituras);
+    escreverAspersorDoArquivo(f, arquivo);
     mostrarEntrada(f, false);
 }
 
@@ -99,8 +99,11 @@ void abrirArquivo(int n) {
         try {
             preencher(n, lerArquivoMóvel(caminho));
         } catch (const EnsaioRecusado& recusa) {
-            plataforma::mensagem(recusa.what());
+            plataforma::mensagem(recusa.what(), recusa.onde);
             voltarAosPadrões(n);
+        } catch (...) {
+            voltarAosPadrões(n);
+            throw;
         }
     });
 }

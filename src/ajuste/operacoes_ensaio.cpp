@@ -105,13 +105,19 @@ void abrirEnsaio(const TelaDeEnsaio& ensaio, Aspersor aspersor) {
 
 void abrirArquivoDeEnsaio(const TelaDeEnsaio& ensaio, std::initializer_list<CaixaTexto*> caixas,
                           const std::function<void(const std::string&)>& ler) {
-    confirmarEntrada(ensaio.controles);
-    if (plataforma::perguntar("O arquivo deve estar na extensão: *.TXT separado por tabulações!")) {
-        for (auto* caixa : caixas) definirTexto(*caixa, "");
-        const auto caminho = plataforma::arquivoParaAbrir({.filtro = "Arquivos Texto (*.TXT)|*.TXT"});
-        if (caminho && !caminho->empty()) return ler(*caminho);
+    const auto voltarADigitar = [&] { marcar(ensaio.tela, ensaio.controles.Option2); };
+    try {
+        confirmarEntrada(ensaio.controles);
+        if (plataforma::perguntar("O arquivo deve estar na extensão: *.TXT separado por tabulações!")) {
+            for (auto* caixa : caixas) definirTexto(*caixa, "");
+            const auto caminho = plataforma::arquivoParaAbrir({.filtro = "Arquivos Texto (*.TXT)|*.TXT"});
+            if (caminho && !caminho->empty()) return ler(*caminho);
+        }
+    } catch (...) {
+        voltarADigitar();
+        throw;
     }
-    marcar(ensaio.tela, ensaio.controles.Option2);
+    voltarADigitar();
 }
 
 void escreverAspersorDoArquivo(ControlesDeEnsaio& controles, const ArquivoDeEnsaio& arquivo) {

@@ -144,8 +144,7 @@ std::vector<PontoMedido> lerPontos(LeitorDeLinhas& leitor, double quantos) {
     return pontos;
 }
 
-void lerArquivo(const std::string& caminho) {
-    LeitorDeLinhas leitor{caminho};
+void lerArquivo(LeitorDeLinhas& leitor) {
     const auto arquivo = lerCabeçalho(leitor);
     mostrarCabeçalho(arquivo);
     const auto pontos = lerPontos(leitor, quantasLinhas(arquivo));
@@ -230,15 +229,20 @@ bool abrirArquivoRadial() {
     const auto caminho = pedirArquivoDeDados();
     if (!caminho) return false;
     const char* mensagem = nullptr;
+    LeitorDeLinhas leitor;
     try {
-        lerArquivo(*caminho);
+        leitor.abrir(*caminho);
+        lerArquivo(leitor);
         return true;
     } catch (const ArquivoRecusado& recusado) {
         mensagem = recusado.mensagem;
     } catch (const ErroExecucao&) {
         mensagem = ArquivoRecusado{}.mensagem;
+    } catch (...) {
+        marcar(perfilForm, f.Option5);
+        throw;
     }
-    plataforma::mensagem(mensagem);
+    plataforma::mensagem(mensagem, leitor.onde());
     marcar(perfilForm, f.Option5);
     return false;
 }

@@ -106,11 +106,18 @@ void perfilForm_Option1_Click() {
 }
 
 void perfilForm_Option2_Click() {
-    sairDaCélula(perfilForm_planilha());
-    mostrarEntrada(false);
-    if (abrirArquivoRadial()) return;
-    marcar(perfilForm, perfilForm->Option1);
-    focar(perfilForm->Option1);
+    const auto voltarADigitar = [] {
+        marcar(perfilForm, perfilForm->Option1);
+        focar(perfilForm->Option1);
+    };
+    try {
+        sairDaCélula(perfilForm_planilha());
+        mostrarEntrada(false);
+        if (!abrirArquivoRadial()) voltarADigitar();
+    } catch (...) {
+        voltarADigitar();
+        throw;
+    }
 }
 
 void perfilForm_Text5_Change() {

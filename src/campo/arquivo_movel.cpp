@@ -89,8 +89,7 @@ void lerLeituras(LeitorDeLinhas& leitor) {
         if (!leitor.próxima().empty()) throw ArquivoRecusado{};
 }
 
-void lerArquivo(const std::string& caminho) {
-    LeitorDeLinhas leitor{caminho};
+void lerArquivo(LeitorDeLinhas& leitor) {
     lerCabeçalho(leitor);
     esvaziarDados(formEC->flex_A);
     try {
@@ -175,20 +174,27 @@ bool abrirArquivoMóvel() {
         definirTexto(*caixa, "");
     const auto caminho = pedirArquivoDeDados();
     if (!caminho) return false;
+    const auto voltarAosPadrões = [&f] {
+        escolherListasPadrão();
+        marcar(formEC, f.Option4);
+    };
     ArquivoRecusado recusa;
+    LeitorDeLinhas leitor;
     try {
-        lerArquivo(*caminho);
+        leitor.abrir(*caminho);
+        lerArquivo(leitor);
         formEC_flex_A_Change();
         return true;
     } catch (const ArquivoRecusado& recusado) {
         recusa = recusado;
     } catch (const ErroExecucao&) {
+    } catch (...) {
+        voltarAosPadrões();
+        formEC_flex_A_Change();
+        throw;
     }
-    plataforma::mensagem(recusa.mensagem);
-    if (!recusa.cabeçalhoAceito) {
-        escolherListasPadrão();
-        marcar(formEC, f.Option4);
-    }
+    plataforma::mensagem(recusa.mensagem, leitor.onde());
+    if (!recusa.cabeçalhoAceito) voltarAosPadrões();
     formEC_flex_A_Change();
     return false;
 }

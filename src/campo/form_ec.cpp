@@ -111,11 +111,18 @@ void formEC_Option1_Click() {
 }
 
 void formEC_Option2_Click() {
-    sairDaCélula(formEC_planilha());
-    mostrarEntrada(false);
-    if (abrirArquivoMóvel()) return;
-    marcar(formEC, formEC->Option1);
-    focar(formEC->Option1);
+    const auto voltarADigitar = [] {
+        marcar(formEC, formEC->Option1);
+        focar(formEC->Option1);
+    };
+    try {
+        sairDaCélula(formEC_planilha());
+        mostrarEntrada(false);
+        if (!abrirArquivoMóvel()) voltarADigitar();
+    } catch (...) {
+        voltarADigitar();
+        throw;
+    }
 }
 
 bool formEC_Text5_KeyPress(int tecla) { return teclar(formEC_planilha(), tecla); }

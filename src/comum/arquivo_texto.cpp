@@ -147,8 +147,9 @@ fs::path destino(fs::path caminho) {
     return caminho;
 }
 
-constexpr std::string_view inícioDoProvisório = ".varenta-";
-constexpr std::size_t letrasSorteadas = 6;
+// What is left over of a save is removed: no one else's file should ever bear such a name.
+constexpr std::string_view inícioDoProvisório = ".varenta-provisorio-";
+constexpr std::size_t letrasSorteadas = 12;
 
 /// A name that a save may give to the file it is writing. Saves that run side by side get different ones.
 std::string sortearNome() {
@@ -297,8 +298,35 @@ std::string lerTexto(const std::string& caminho) {
     return decodificar(bytes);
 }
 
+void LeitorDeLinhas::abrir(const std::string& caminho) {
+    *this = {};
+    try {
+        texto_ = lerTexto(caminho);
+    } catch (const ErroExecucao& e) {
+        motivo_ = e.what();
+        throw;
+    }
+}
+
+bool LeitorDeLinhas::sóRestaBranco() const {
+    for (auto k = posição_; k < texto_.size(); ++k) {
+        const bool fimDeLinha = texto_[k] == '\r' && (k + 1 == texto_.size() || texto_[k + 1] == '\n');
+        if (!fimDeLinha && texto_[k] != '\n' && texto_[k] != ' ' && texto_[k] != '\t') return false;
+    }
+    return true;
+}
+
+std::string LeitorDeLinhas::onde() const {
+    if (!motivo_.empty()) return "Motivo: " + motivo_ + ".";
+    const auto número = std::to_string(linha_);
+    if (terminou_) return linha_ == 0 ? "O arquivo está vazio." : "O arquivo termina na linha " + número + ".";
+    return linha_ == 0 ? "" : "Linha " + número + " do arquivo.";
+}
+
 std::string LeitorDeLinhas::próxima() {
-    if (fim()) throw ErroExecucao{"Entrada após o fim do arquivo"};
+    terminou_ = fim();
+    if (terminou_) throw ErroExecucao{"Entrada após o fim do arquivo"};
+    ++linha_;
     const auto quebra = texto_.find('\n', posição_);
     const auto fimDaLinha = quebra == std::string::npos ? texto_.size() : quebra;
     if (fimDaLinha - posição_ > maiorLinha) throw ErroExecucao{"a linha é longa demais"};

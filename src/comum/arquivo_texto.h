@@ -19,17 +19,29 @@ std::string lerTexto(const std::string& caminho);
 /// The lines of a text file, one after another. LF and CR LF both end a line; the last one may lack its end.
 class LeitorDeLinhas {
   public:
+    /// Of no file yet.
+    LeitorDeLinhas() = default;
     /// Reads the file. Raises as `lerTexto`.
-    explicit LeitorDeLinhas(const std::string& caminho) : texto_{lerTexto(caminho)} {}
+    explicit LeitorDeLinhas(const std::string& caminho) { abrir(caminho); }
+    /// Reads the file, in place of the one before. Raises as `lerTexto`.
+    void abrir(const std::string& caminho);
 
     bool fim() const { return posição_ >= texto_.size(); }
+    /// Whether all lines that are left are blank.
+    bool sóRestaBranco() const;
     /// The next line without its end. Raises "Entrada após o fim do arquivo" where there is none, and an
     /// error of its own for one longer than `maiorLinha`.
     std::string próxima();
 
+    /// Where the reading stands, as a person is told of a file that is refused: the line that was read last, the
+    /// one that the file ends with where more was asked for, or why it couldn't be opened.
+    std::string onde() const;
+
   private:
     std::string texto_;
-    std::size_t posição_ = 0;
+    std::size_t posição_ = 0, linha_ = 0;
+    bool terminou_ = false;
+    std::string motivo_;
 };
 
 /// From then on a write past the file size that the user was granted fails like one on a full disk, where it

@@ -22,9 +22,11 @@ namespace {
 
 QMessageBox::StandardButton mostrarCaixa(QMessageBox::Icon ícone, const QString& texto,
                                          QMessageBox::StandardButtons botões,
-                                         QMessageBox::StandardButton padrão = QMessageBox::NoButton) {
+                                         QMessageBox::StandardButton padrão = QMessageBox::NoButton,
+                                         const QString& detalhe = {}) {
     QMessageBox caixa{ícone, QStringLiteral("Varenta"), texto, botões, QApplication::activeWindow()};
     caixa.setTextFormat(Qt::PlainText);
+    caixa.setInformativeText(detalhe);
     caixa.setDefaultButton(padrão);
     if (auto* sim = caixa.button(QMessageBox::Yes)) sim->setText(QStringLiteral("&Sim"));
     if (auto* não = caixa.button(QMessageBox::No)) não->setText(QStringLiteral("&Não"));
@@ -117,7 +119,9 @@ class EntradasDescartadas : public QObject {
 Dialogos dialogosDoQt() {
     return {
         .mensagem =
-            [](const QString& texto) { mostrarCaixa(QMessageBox::Information, texto, QMessageBox::Ok); },
+            [](const QString& texto, const QString& detalhe) {
+                mostrarCaixa(QMessageBox::Information, texto, QMessageBox::Ok, QMessageBox::NoButton, detalhe);
+            },
         .perguntar =
             [](const QString& texto) {
                 return mostrarCaixa(QMessageBox::Question, texto, QMessageBox::Yes | QMessageBox::No) ==
@@ -195,10 +199,10 @@ QString filtrosDoQt(const QString& filtro) {
 /// While a roteiro runs in the windows, it is told and asked instead of the person.
 namespace plataforma {
 
-void mensagem(std::string_view texto) {
+void mensagem(std::string_view texto, std::string_view detalhe) {
     if (auto* roteiro = Interprete::ativo()) return roteiro->mensagem(texto);
     preparar();
-    dialogos().mensagem(qtexto(texto));
+    dialogos().mensagem(qtexto(texto), qtexto(detalhe));
 }
 
 bool perguntar(std::string_view texto) {

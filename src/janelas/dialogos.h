@@ -16,7 +16,7 @@ struct ArquivoEscolhido {
 };
 
 struct Dialogos {
-    std::function<void(const QString& texto)> mensagem;
+    std::function<void(const QString& texto, const QString& detalhe)> mensagem;
     /// True for Yes.
     std::function<bool(const QString& texto)> perguntar;
     /// The same for what may do harm: No is the answer at hand.

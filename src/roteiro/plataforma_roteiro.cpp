@@ -15,7 +15,7 @@ Interprete& ativo() {
 
 } // namespace
 
-void mensagem(std::string_view texto) { ativo().mensagem(texto); }
+void mensagem(std::string_view texto, std::string_view) { ativo().mensagem(texto); }
 
 bool perguntar(std::string_view texto) { return ativo().perguntar(texto); }
 

@@ -34,7 +34,7 @@ std::optional<std::string> próximaAceita(LeitorDeLinhas& leitor,
     auto linha = leitor.próxima();
     const char* recusa = primeiraRecusa(verificações, linha);
     if (!recusa) return linha;
-    plataforma::mensagem(recusa);
+    plataforma::mensagem(recusa, leitor.onde());
     return std::nullopt;
 }
 
@@ -77,7 +77,7 @@ void lerArquivoDeParametros(const std::string& caminho) {
         lerLinhas(*leitor);
     } catch (const ErroExecucao&) {
         // A file that ends early is answered like any other that can't be read to its end.
-        plataforma::mensagem("O arquivo é muito grande!");
+        plataforma::mensagem("O arquivo é muito grande!", leitor->onde());
     }
 }
 

@@ -9,6 +9,7 @@
 namespace varenta::teste {
 
 std::vector<std::string> caderno;
+std::string detalheDaMensagem;
 std::vector<bool> ampulhetas;
 std::string falhaDaAjuda;
 std::vector<PassoDeProgresso> progressos;
@@ -51,7 +52,10 @@ namespace varenta::plataforma {
 
 using namespace teste;
 
-void mensagem(std::string_view texto) { anotar("mensagem", texto); }
+void mensagem(std::string_view texto, std::string_view detalhe) {
+    anotar("mensagem", texto);
+    detalheDaMensagem = detalhe;
+}
 
 bool perguntar(std::string_view texto) {
     anotar("pergunta", texto);

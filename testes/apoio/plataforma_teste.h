@@ -12,6 +12,8 @@ namespace varenta::teste {
 /// "abrir: <filter>", "salvar: <filter> <ending>", "encerrar",
 /// "ajuda: <topic>".
 extern std::vector<std::string> caderno;
+/// What stood beneath the text of the last message.
+extern std::string detalheDaMensagem;
 /// The hourglass was shown (true) or taken away (false), in order.
 extern std::vector<bool> ampulhetas;
 /// What the help fails with; empty where it opens.

@@ -151,6 +151,38 @@ TEST(LeitorDeLinhas, UmaLinhaLongaDemaisÉRecusada) {
                   "a linha é longa demais");
 }
 
+TEST(LeitorDeLinhas, DizEmQueLinhaEstáEOQueOImpediu) {
+    const PastaTemporaria pasta;
+    LeitorDeLinhas leitor;
+    EXPECT_EQ(leitor.onde(), "");
+    EXPECT_NE(erroDe([&] { leitor.abrir(pasta.caminho("falta.txt")); }), "");
+    EXPECT_EQ(leitor.onde(), "Motivo: o arquivo ou a pasta não existe.");
+    leitor.abrir(pasta.gravar("duas.txt", "um\r\n" + std::string(maiorLinha + 1, 'x')));
+    EXPECT_EQ(leitor.onde(), "");
+    leitor.próxima();
+    EXPECT_EQ(leitor.onde(), "Linha 1 do arquivo.");
+    EXPECT_NE(erroDe([&] { leitor.próxima(); }), "");
+    EXPECT_EQ(leitor.onde(), "Linha 2 do arquivo.");
+    leitor.abrir(pasta.gravar("uma.txt", "um\n"));
+    leitor.próxima();
+    EXPECT_NE(erroDe([&] { leitor.próxima(); }), "");
+    EXPECT_EQ(leitor.onde(), "O arquivo termina na linha 1.");
+    leitor.abrir(pasta.gravar("vazio.txt", ""));
+    EXPECT_NE(erroDe([&] { leitor.próxima(); }), "");
+    EXPECT_EQ(leitor.onde(), "O arquivo está vazio.");
+}
+
+TEST(LeitorDeLinhas, SabeQuandoSóRestamLinhasEmBranco) {
+    const PastaTemporaria pasta;
+    const auto só = [&](const std::string& resto) {
+        LeitorDeLinhas leitor{pasta.gravar("resto.txt", "um\n" + resto)};
+        leitor.próxima();
+        return leitor.sóRestaBranco();
+    };
+    for (const auto* branco : {"", "\n", " \t\r\n\r\n", " ", "\r"}) EXPECT_TRUE(só(branco)) << branco;
+    for (const auto* resto : {"x", "\n\nx", "\r\r\n", " \v"}) EXPECT_FALSE(só(resto)) << resto;
+}
+
 TEST(LeitorDeLinhas, ArquivoVazioNãoTemLinhas) { EXPECT_TRUE(linhasDe("").empty()); }
 
 TEST(LeitorDeLinhas, AcusaALeituraAlémDoFim) {

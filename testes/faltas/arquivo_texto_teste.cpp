@@ -224,16 +224,18 @@ TEST(GravarTextoComFalhas, MortoEmQualquerPontoDeixaUmArquivoInteiroENenhumResto
 
 TEST(GravarTextoComFalhas, SóOQueNinguémUsaÉVarrido) {
     const PastaTemporaria pasta;
-    pasta.gravar(".varenta-abc123", "left behind");
-    pasta.gravar(".varenta-notas", "the user's own");
-    pasta.gravar(".varenta-abc1234", "the user's own");
-    fs::create_directory(pasta.caminho(".varenta-pasta1"));
+    pasta.gravar(".varenta-provisorio-abcdef123456", "left behind");
+    pasta.gravar(".varenta-backup", "the user's own");
+    pasta.gravar(".varenta-provisorio-abcdef1234567", "the user's own");
+    fs::create_directory(pasta.caminho(".varenta-provisorio-umapasta0001"));
     // Another program's save, in the middle of its work.
-    const int alheio = ::open(pasta.gravar(".varenta-def456", "being written").c_str(), O_RDONLY | O_CLOEXEC);
+    const int alheio = ::open(pasta.gravar(".varenta-provisorio-defabc654321", "being written").c_str(),
+                              O_RDONLY | O_CLOEXEC);
     ASSERT_EQ(::flock(alheio, LOCK_EX), 0);
     gravarTexto(pasta.caminho("a.txt"), "novo");
-    EXPECT_EQ(pasta.nomes(), (std::set<std::string>{"a.txt", ".varenta-notas", ".varenta-abc1234",
-                                                    ".varenta-pasta1", ".varenta-def456"}));
+    EXPECT_EQ(pasta.nomes(), (std::set<std::string>{
+                                 "a.txt", ".varenta-backup", ".varenta-provisorio-abcdef1234567",
+                                 ".varenta-provisorio-umapasta0001", ".varenta-provisorio-defabc654321"}));
     ::close(alheio);
 }
 

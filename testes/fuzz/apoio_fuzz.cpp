@@ -263,7 +263,7 @@ namespace varenta::plataforma {
 
 using namespace fuzz;
 
-void mensagem(std::string_view texto) {
+void mensagem(std::string_view texto, std::string_view) {
     if (auto* roteiro = Interprete::ativo()) return roteiro->mensagem(texto);
     anotar("mensagem: ", texto);
 }

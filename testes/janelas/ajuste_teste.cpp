@@ -328,7 +328,7 @@ TEST_F(JanelasDoAjuste, enquanto_ajustam_nada_mais_começa_nem_espera_sua_vez) {
                                                         Qt::LeftButton, Qt::NoModifier});
     };
     bool agendados = false;
-    dialogos().mensagem = [&](const QString& texto) {
+    dialogos().mensagem = [&](const QString& texto, const QString&) {
         caixas.push_back(texto);
         if (std::exchange(agendados, true)) return;
         // Clicks that wait in the queue when the search begins.
@@ -365,7 +365,7 @@ TEST_F(JanelasDoAjuste, enquanto_ajustam_nada_mais_começa_nem_espera_sua_vez) {
 TEST_F(JanelasDoAjuste, enquanto_ajustam_nenhuma_janela_se_fecha) {
     abrirMalha();
     // Before the search begins one waits in the queue.
-    dialogos().mensagem = [this](const QString& texto) {
+    dialogos().mensagem = [this](const QString& texto, const QString&) {
         if (caixas.empty()) QCoreApplication::postEvent(&janela(form_AjVen), new QCloseEvent);
         caixas.push_back(texto);
     };

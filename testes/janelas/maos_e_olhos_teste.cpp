@@ -721,7 +721,7 @@ class CliquesNaFila : public MãosEOlhos {
         mostrarSó(form7);
         apagarEDigitar(form7, "Text1", QStringLiteral("x"));
         caixas.clear();
-        dialogos().mensagem = [this, ms](const QString& texto) {
+        dialogos().mensagem = [this, ms](const QString& texto, const QString&) {
             caixas.push_back(texto);
             clicarDepois(widget<QWidget>(form7, "Command5"));
             QThread::msleep(ms);

@@ -88,7 +88,7 @@ std::string exameDoArquivo(const std::string& caminho) {
 class Macaco : public QObject, private LeituraDeVolta {
   public:
     explicit Macaco(unsigned semente) : acaso_{semente}, maos_{acaso_, janelas_, escriba_} {
-        dialogos() = {.mensagem = [this](const QString& texto) { contar(texto); },
+        dialogos() = {.mensagem = [this](const QString& texto, const QString&) { contar(texto); },
                       .perguntar = [this](const QString&) { return responder(); },
                       .erroDeExecucao = [this](const QString& texto) { contarErro(texto); },
                       .arquivoParaAbrir = [this](const QString&) { return escolher(); },
