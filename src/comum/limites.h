@@ -11,10 +11,13 @@ namespace varenta {
 /// below has some 20 MB.
 inline constexpr std::size_t maiorArquivo = std::size_t{64} << 20;
 
-/// Bytes of a line of a text file, and of a text typed into a box, which would be one. The widest row of
-/// readings has some 100 kB; a longer line is no text of this system, and would go into a box of a screen
-/// whole.
+/// Bytes of a line of a text file or a roteiro, and of a text typed into a box, which would be one. The
+/// widest row of readings has some 100 kB; a longer line is no text of this system, and would go into a box
+/// of a screen whole.
 inline constexpr std::size_t maiorLinha = std::size_t{1} << 20;
+
+/// Answers that a roteiro keeps ready for questions and dialogs that haven't come yet.
+inline constexpr std::size_t maisRespostas = 1000;
 
 /// Data rows, and data columns, of a grid that takes entries. A test in the field has some dozens.
 inline constexpr int maiorLadoDaPlanilha = 10'000;

@@ -12,6 +12,7 @@
 #include <cstddef>
 #include <istream>
 #include <map>
+#include <new>
 #include <ostream>
 #include <utility>
 
@@ -83,6 +84,11 @@ Alvo alvoDe(const std::string& palavra) {
     if (!palavra.ends_with(')') && alvos.front().elemento.índice)
         throw ErroDeRoteiro{palavra + " precisa de um índice"};
     return std::move(alvos.front());
+}
+
+template <class Fila>
+void exigirLugar(const Fila& fila) {
+    if (fila.size() == maisRespostas) throw ErroDeRoteiro{"há respostas demais por usar"};
 }
 
 std::string lerTudo(std::istream& entrada) {
@@ -173,6 +179,8 @@ Interprete::Desfecho Interprete::executarTexto(std::string_view texto, std::stri
         executarLinhas(texto);
         atos::soltar();
         esvaziarSaída();
+        avisarDeRespostasNãoUsadas();
+        return concluído;
     } catch (const ErroDeRoteiro& e) {
         acusar(e.what());
         return erroNoRoteiro;
@@ -182,9 +190,10 @@ Interprete::Desfecho Interprete::executarTexto(std::string_view texto, std::stri
     } catch (const FalhaDeSaída& e) {
         acusar(e.what());
         return falha;
+    } catch (const std::bad_alloc&) {
+        acusar("memória insuficiente");
+        return falha;
     }
-    avisarDeRespostasNãoUsadas();
-    return concluído;
 }
 
 void Interprete::executarLinhas(std::string_view texto) {
@@ -194,6 +203,7 @@ void Interprete::executarLinhas(std::string_view texto) {
         auto linha = texto.substr(0, quebra);
         texto.remove_prefix(std::min(quebra + 1, texto.size()));
         if (linha.ends_with('\r')) linha.remove_suffix(1);
+        if (linha.size() > maiorLinha) throw ErroDeRoteiro{"a linha é longa demais"};
         // No message that repeats a word would come out whole, and no keyboard types it.
         if (linha.find('\0') != std::string_view::npos) throw ErroDeRoteiro{"a linha tem um caractere nulo"};
         if (const auto palavras = separarPalavras(linha); !palavras.empty()) executarComando(palavras);
@@ -245,6 +255,7 @@ void Interprete::fechar(const Palavras& palavras) { atos::fechar(telaDe(palavras
 void Interprete::responder(const Palavras& palavras) {
     const auto& resposta = palavras[1];
     if (resposta != "sim" && resposta != "não") comandoDeNome(palavras[0]).recusarUso();
+    exigirLugar(respostas_);
     respostas_.push_back({linha_, "responder " + resposta, resposta == "sim"});
 }
 
@@ -254,6 +265,7 @@ void Interprete::arquivo(const Palavras& palavras) {
         throw ErroDeRoteiro{"o caminho não tem nome de arquivo"};
     std::optional<std::string> resposta;
     if (caminho != "cancelar") resposta = caminho;
+    exigirLugar(arquivos_);
     arquivos_.push_back({linha_, "arquivo " + caminho, std::move(resposta)});
 }
 

@@ -52,6 +52,17 @@ TEST_F(InterpreteTexto, AcusaUmCaractereNulo) {
     EXPECT_EQ(erroDe("foco\nmostrar \0Bancada.caixa\n"s), "caso.roteiro:2: a linha tem um caractere nulo\n");
 }
 
+TEST_F(InterpreteTexto, AcusaUmaLinhaLongaDemais) {
+    EXPECT_EQ(erroDe("foco\n# " + std::string(maiorLinha, 'x')), "caso.roteiro:2: a linha é longa demais\n");
+}
+
+TEST_F(InterpreteTexto, AcusaRespostasQueNinguémPediu) {
+    std::string texto;
+    for (std::size_t n = 0; n < maisRespostas; ++n) texto += "arquivo a\nresponder sim\n";
+    EXPECT_EQ(erroDe(texto + "responder não"), "caso.roteiro:2001: há respostas demais por usar\n");
+    EXPECT_EQ(erroDe(texto + "arquivo b"), "caso.roteiro:2001: há respostas demais por usar\n");
+}
+
 TEST_F(InterpreteTexto, AcusaAspasSemFechamento) {
     EXPECT_EQ(erroDe("digitar Bancada.caixa \"x"), "caso.roteiro:1: aspas sem fechamento\n");
 }
