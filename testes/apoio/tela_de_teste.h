@@ -2,6 +2,7 @@
 
 #include "apoio/plataforma_teste.h"
 #include "comum/erro_execucao.h"
+#include "comum/numeros.h"
 #include "comum/planilha.h"
 #include "comum/tela.h"
 
@@ -70,7 +71,7 @@ struct RegistroDeTeste {
     Rolagem rolagemMuda{.valor = 0, .mínimo = -3, .máximo = 3};
     Barra barra;
     Desenho desenho{.aoMoverMouse = [](double x, double y) {
-        anotarEvento("mouse " + std::to_string(x) + " " + std::to_string(y));
+        anotarEvento("mouse " + Format(x, "0.000000") + " " + Format(y, "0.000000"));
     }};
     Desenho desenhoMudo;
 

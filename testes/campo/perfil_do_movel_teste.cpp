@@ -1,6 +1,7 @@
 #include "campo/perfil_do_movel.h"
 
 #include "apoio/ensaios.h"
+#include "comum/numeros.h"
 #include "simulacao/form7.h"
 
 #include <cmath>
@@ -182,7 +183,7 @@ TEST_F(PerfilDoMóvel, SemVazãoQualquerRespostaEscreveASomaEAPerguntaSegue) {
         EXPECT_EQ(caderno.size(), 2U);
         EXPECT_TRUE(caderno[0].starts_with("pergunta: Insira um valor de vazão.")) << caderno[0];
         EXPECT_TRUE(caderno[1].starts_with("pergunta: A vazão estimada diferiu em 10%")) << caderno[1];
-        EXPECT_NEAR(std::stod(formEC->Text12.texto), vazãoFeitaÀMão(), 0.001);
+        EXPECT_NEAR(lerPrefixo(formEC->Text12.texto), vazãoFeitaÀMão(), 0.001);
         EXPECT_TRUE(perfil.visivel);
     }
 }
@@ -232,8 +233,9 @@ TEST_F(PerfilDoMóvel, MostraOPerfilNaEscalaDaVazão) {
     EXPECT_EQ(p.lblRaio[3].texto, "0.4");
     EXPECT_EQ(p.lblRaio[22].texto, "5.0");
     // Inside the first ring, up to 1.83 m, its own 26.205 mm/h; 0 at the reach.
-    for (std::size_t k = 1; k <= 8; ++k) EXPECT_NEAR(std::stod(p.lblIntensidade[k].texto), 26.205, 0.02) << k;
-    EXPECT_LT(std::stod(p.lblIntensidade[9].texto), 26.1);
+    for (std::size_t k = 1; k <= 8; ++k)
+        EXPECT_NEAR(lerPrefixo(p.lblIntensidade[k].texto), 26.205, 0.02) << k;
+    EXPECT_LT(lerPrefixo(p.lblIntensidade[9].texto), 26.1);
     EXPECT_EQ(p.lblIntensidade[22].texto, "0.000");
     EXPECT_FALSE(formEC.visivel);
 }
@@ -273,7 +275,7 @@ TEST_F(PerfilDoMóvel, AMédiaDosDoisLadosEDasLinhasÉOPerfil) {
     abrirFormEC("PerfRad", {{"0", "2"}, {"4", "6"}, {"2", "4"}, {"2", "4"}});
     respostas = {true, true};
     gerar();
-    EXPECT_NEAR(std::stod(formEC->Text12.texto), vazãoFeitaÀMão(), 0.001);
+    EXPECT_NEAR(lerPrefixo(formEC->Text12.texto), vazãoFeitaÀMão(), 0.001);
 }
 
 TEST_F(PerfilDoMóvel, VolumesDãoAsMesmasLâminas) {
@@ -285,7 +287,7 @@ TEST_F(PerfilDoMóvel, VolumesDãoAsMesmasLâminas) {
     digitar(formEC, "Text7", "2000");
     respostas = {true, true};
     gerar();
-    EXPECT_NEAR(std::stod(formEC->Text12.texto), vazãoFeitaÀMão(), 0.001);
+    EXPECT_NEAR(lerPrefixo(formEC->Text12.texto), vazãoFeitaÀMão(), 0.001);
 }
 
 TEST_F(PerfilDoMóvel, LâminasQueNãoDãoPerfilSãoRecusadasETudoFica) {

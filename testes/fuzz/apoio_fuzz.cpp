@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <array>
+#include <clocale>
 #include <cmath>
 #include <cstdlib>
 #include <filesystem>
@@ -150,7 +151,9 @@ std::optional<Numeral> numeralNoInício(std::string_view texto) {
             p = q;
         }
     }
-    const double valor = std::strtod(std::string{texto.substr(início, p - início)}.c_str(), nullptr);
+    // The C library's, whatever the locale has for a decimal point.
+    static const locale_t deC = ::newlocale(LC_ALL_MASK, "C", nullptr);
+    const double valor = ::strtod_l(std::string{texto.substr(início, p - início)}.c_str(), nullptr, deC);
     return Numeral{valor, std::isinf(valor), texto.substr(p)};
 }
 

@@ -48,17 +48,20 @@ class Macaco {
     /// One act. Returns what is wrong afterwards; empty where nothing is.
     std::string agir() {
         const auto passo = sortearPasso();
-        história_.push_back(passo.texto());
         caderno.clear();
+        std::string errado;
         try {
             executar(passo);
             ++feitos_[passo.palavras[0]];
         } catch (const AtoRecusado&) {
+            // A roteiro would end here: it isn't one of its acts.
             ++feitos_["refused"];
+            return exameDosRegistros(encerrado());
         } catch (const std::exception& e) {
-            return std::string{"escaped: "} + e.what();
+            errado = std::string{"escaped: "} + e.what();
         }
-        auto errado = exameDosRegistros(encerrado());
+        história_.push_back(comAsRespostasUsadas(passo).texto());
+        if (errado.empty()) errado = exameDosRegistros(encerrado());
         if (errado.empty()) errado = anotarSalvo(passo);
         // Now and then from the start, so that no history grows too long to be read.
         if (!errado.empty() || (!encerrado() && história_.size() <= 3000)) return errado;
@@ -70,7 +73,23 @@ class Macaco {
     const std::vector<std::string>& história() const { return história_; }
     const std::map<std::string, long>& feitos() const { return feitos_; }
 
+    /// What is wrong with the files that were saved since the last start; empty where nothing is.
+    std::string conferirSalvos() {
+        for (const auto& [caminho, tela] : salvos_) {
+            recomeçar();
+            if (auto errado = PeloCaderno{}.conferir(tela, caminho); !errado.empty()) return errado;
+        }
+        return {};
+    }
+
   private:
+    /// A roteiro would keep those left over for the next question.
+    static Passo comAsRespostasUsadas(Passo passo) {
+        passo.respostas.resize(passo.respostas.size() - respostas.size());
+        passo.arquivos.resize(passo.arquivos.size() - arquivos.size());
+        return passo;
+    }
+
     void recomeçarTudo() {
         recomeçar();
         história_.clear();
@@ -93,14 +112,6 @@ class Macaco {
         salvos_[*salvo] = passo.palavras[1].substr(0, passo.palavras[1].find('.'));
         std::ifstream arquivo{*salvo, std::ios::binary};
         return exameDoTextoSalvo(std::string{std::istreambuf_iterator<char>{arquivo}, {}});
-    }
-
-    std::string conferirSalvos() {
-        for (const auto& [caminho, tela] : salvos_) {
-            recomeçar();
-            if (auto errado = PeloCaderno{}.conferir(tela, caminho); !errado.empty()) return errado;
-        }
-        return {};
     }
 
     Passo sortearPasso() {
@@ -169,11 +180,17 @@ class Macaco {
     std::map<std::string, long> feitos_;
 };
 
+// What a few large tables leave behind in the allocator; a leak of a screen at each start would be more.
+constexpr double maisMemória = 64; // MiB
+
 int executarMacaco(long atos, unsigned semente) {
     Macaco macaco{semente};
     double noMeio = 0;
     for (long n = 1; n <= atos; ++n) {
-        if (const auto errado = macaco.agir(); !errado.empty()) {
+        auto errado = macaco.agir();
+        if (errado.empty() && n == atos) errado = macaco.conferirSalvos();
+        if (errado.empty() && n == atos && memóriaResidente() > noMeio + maisMemória) errado = "memory grows";
+        if (!errado.empty()) {
             for (const auto& passo : macaco.história()) std::fputs(passo.c_str(), stdout);
             std::printf("# seed %u, act %ld: %s\n", semente, n, errado.c_str());
             return 1;

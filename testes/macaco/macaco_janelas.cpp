@@ -113,6 +113,18 @@ class Macaco : public QObject, private LeituraDeVolta {
 
     /// One movement. Returns what is wrong afterwards; empty where nothing is.
     std::string agir() {
+        fazer();
+        return std::exchange(falha, {});
+    }
+
+    /// What is wrong with the files that were saved since the last start, as at each start.
+    std::string encerrarExame() {
+        conferirSalvos();
+        return std::exchange(falha, {});
+    }
+
+  private:
+    void fazer() {
         ++gestos_;
         salvo_.reset();
         houveRecado_ = false;
@@ -128,9 +140,9 @@ class Macaco : public QObject, private LeituraDeVolta {
             conferirSalvos();
             if (falha.empty()) recomeçar();
         }
-        return std::exchange(falha, {});
     }
 
+  public:
     const std::vector<std::string>& história() const { return escriba_.linhas(); }
     const std::map<std::string, long>& feitos() const { return feitos_; }
     /// Bytes in use by the program each time that it had no window, in their order.
@@ -218,6 +230,8 @@ class Macaco : public QObject, private LeituraDeVolta {
         const int filtro = acaso_.umEm(20) ? 4 : std::array{1, 2, 5, 6}[acaso_.até(4)];
         const auto nome = acaso_.pasta().caminho(acaso_.algumDe(nomes));
         escriba_.anotarArquivo(nome);
+        const auto* terminação = filtro == 5 ? ".svg" : filtro == 6 ? ".pdf" : ".png";
+        salvo_ = {std::filesystem::path{nome}.has_extension() ? nome : nome + terminação, ""};
         return ArquivoEscolhido{QString::fromStdString(nome), filtro};
     }
 
@@ -337,6 +351,7 @@ int executarMacaco(long atos, unsigned semente) {
         ++n;
         errado = macaco.agir();
     }
+    if (errado.empty()) errado = macaco.encerrarExame();
     if (errado.empty()) errado = exameDaMemória(macaco.memórias(), n);
     if (!errado.empty()) {
         for (const auto& linha : macaco.história()) std::fputs(linha.c_str(), stdout);

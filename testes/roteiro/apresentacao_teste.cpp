@@ -88,7 +88,7 @@ TEST_F(Apresentacao, NúmeroDoTraçoTemAFormaMaisCurtaQueRelidaDáOMesmoDouble) 
                            {1.7976931348623157e308, "1.7976931348623157e+308"}}) {
         bancada->desenho.limpar();
         bancada->desenho.linha(valor, 0, 0, 0, cores::preto);
-        EXPECT_EQ(std::strtod(texto.c_str(), nullptr), valor);
+        EXPECT_EQ(lerPrefixo(texto), valor);
         EXPECT_EQ(saídaDe("mostrar Bancada.desenho"),
                   "Bancada.desenho: 1 linhas, 0 caixas, 0 arcos\nlinha " + texto + " 0 0 0 #000000 1\n");
     }

@@ -2,6 +2,7 @@
 
 #include "comum/desenho.h"
 #include "comum/erro_execucao.h"
+#include "comum/numeros.h"
 #include "comum/planilha.h"
 #include "comum/plataforma.h"
 #include "comum/tela.h"
@@ -59,8 +60,9 @@ struct RegistroBancada {
                     .aoRolar = [] { anotar("Scroll"); }};
     Rolagem rolagemQuePergunta{.máximo = 10, .aoMudar = [] { plataforma::perguntar("Muda?"); }};
     Barra barra{.valor = 40};
-    Desenho desenho{
-        .aoMoverMouse = [](double x, double y) { anotar(std::to_string(x) + " " + std::to_string(y)); }};
+    Desenho desenho{.aoMoverMouse = [](double x, double y) {
+        anotar(Format(x, "0.000000") + " " + Format(y, "0.000000"));
+    }};
     Grade grade{.linhas = 3,
                 .colunas = 3,
                 .células = {"No", "d", "i", "1", "", "", "2", "", ""},

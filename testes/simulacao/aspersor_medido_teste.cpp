@@ -1,5 +1,6 @@
 #include "apoio/ensaios.h"
 #include "aspersor/form1.h"
+#include "comum/numeros.h"
 #include "simulacao/fonte_aspersor.h"
 #include "simulacao/form7.h"
 #include "simulacao/perfil_transversal.h"
@@ -17,7 +18,8 @@ class SimulaçãoDoMedido : public testing::Test {
     static void avançar() { clicar(perfil, "Command6"); }
     static std::vector<double> lâminas() {
         std::vector<double> lâminas;
-        for (int l = 1; l < form7->flexA.linhas; ++l) lâminas.push_back(std::stod(form7->flexA.célula(l, 2)));
+        for (int l = 1; l < form7->flexA.linhas; ++l)
+            lâminas.push_back(lerPrefixo(form7->flexA.célula(l, 2)));
         return lâminas;
     }
 };
@@ -173,8 +175,8 @@ TEST_F(SimulaçãoDoMedido, FecharFechaPerfilEDevolveOMenu) {
 /// A catalogue profile as a radial test: a reading on its first segment and one on its last, so that both
 /// ends close where the catalogue's do, and those at its own 20 distances between.
 Leituras ensaioDoCatálogo() {
-    const double R = std::stod(form1->lblRaioAlcance.texto);
-    const auto i = [](std::size_t k) { return std::stod(form1->lblIntensidade[k].texto); };
+    const double R = lerPrefixo(form1->lblRaioAlcance.texto);
+    const auto i = [](std::size_t k) { return lerPrefixo(form1->lblIntensidade[k].texto); };
     const auto leitura = [](double r, double i) { return std::pair{std::to_string(r), std::to_string(i)}; };
     Leituras leituras{leitura(0.0125 * R, (i(1) + i(2)) / 2)};
     for (std::size_t k = 2; k <= 21; ++k)
@@ -188,7 +190,7 @@ TEST_F(SimulaçãoDoMedido, UmPerfilDoCatálogoDigitadoSimulaAsMesmasLâminas) {
         recomeçar();
         clicar(form3, item);
         const auto ensaio = ensaioDoCatálogo();
-        const auto raio = std::stod(form1->lblRaioAlcance.texto);
+        const auto raio = lerPrefixo(form1->lblRaioAlcance.texto);
         clicar(form1, "Command3");
         const auto doCatálogo = lâminas();
 
@@ -197,7 +199,7 @@ TEST_F(SimulaçãoDoMedido, UmPerfilDoCatálogoDigitadoSimulaAsMesmasLâminas) {
         respostas.push_back(false);
         clicar(perfilForm, "Command8");
         // The entry rounds distances to a centimetre and readings to a thousandth of mm/h.
-        EXPECT_NEAR(std::stod(perfil->Label17.texto), raio, 0.02);
+        EXPECT_NEAR(lerPrefixo(perfil->Label17.texto), raio, 0.02);
         avançar();
         const auto doMedido = lâminas();
         ASSERT_EQ(doMedido.size(), doCatálogo.size());
