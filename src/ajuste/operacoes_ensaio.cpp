@@ -20,7 +20,7 @@ Planilha planilhaDoEnsaio(ControlesDeEnsaio& controles) {
             .entrada = controles.Text5,
             .nomeDaCélula = controles.Label6,
             .contagem = nullptr,
-            .digitação = controles.Option2.marcada,
+            .digitação = controles.Option2.marcada && controles.Text5.visivel,
             .padrãoDaColuna = [](int) -> std::string_view { return "0.000"; }};
 }
 
@@ -44,20 +44,20 @@ void confirmarEntrada(ControlesDeEnsaio& controles) {
 }
 
 void escolherDigitação(ControlesDeEnsaio& controles) {
-    confirmarEntrada(controles);
+    voltarADigitar(planilhaDoEnsaio(controles));
     mostrarEntrada(controles, true);
 }
 
 void dimensionarPlanilha(ControlesDeEnsaio& controles, int linhas, int colunas) {
-    sairDaCélula(planilhaDoEnsaio(controles));
-    controles.flex_A.dimensionar(linhas, colunas);
+    const auto planilha = planilhaDoEnsaio(controles);
+    sairDaCélula(planilha);
+    dimensionar(planilha, linhas, colunas);
 }
 
 void mostrarEntrada(ControlesDeEnsaio& controles, bool mostra) {
     controles.Text5.visivel = mostra;
     controles.Label6.visivel = mostra;
     controles.Label7.visivel = mostra;
-    entrarNaCélula(planilhaDoEnsaio(controles));
 }
 
 void mostrarDiâmetro(ControlesDeEnsaio& controles) {

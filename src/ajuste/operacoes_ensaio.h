@@ -35,7 +35,7 @@ void escolherDigitação(ControlesDeEnsaio& controles);
 /// Gives the grid its size, once what the entry line holds has gone to its cell.
 void dimensionarPlanilha(ControlesDeEnsaio& controles, int linhas, int colunas);
 
-/// Shows or hides the entry line with its labels. Where it shows it takes the current cell's text.
+/// Shows or hides the entry line with its labels.
 void mostrarEntrada(ControlesDeEnsaio& controles, bool mostra);
 
 /// Shows the diameter of the collector for readings in volume only, and empties it where that changes.

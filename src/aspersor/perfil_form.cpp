@@ -33,21 +33,25 @@ void mostrarEntrada(bool mostrada) {
 }
 
 /// Gives the grid so many rows of data. "12" becomes "13" by way of "1": rows that go are kept until the
-/// number grows again.
+/// number grows again. Where the change fails halfway no row is lost: the new grid takes the old one's place
+/// when it is whole.
 void mudarNúmeroDeDados(int dados) {
     auto& f = *perfilForm.operator->();
     auto pontos = pontosDaGrade(f.flexGrid);
     pontos.insert(pontos.end(), f.recolhidas.begin(), f.recolhidas.end());
     pontos.resize(std::max(pontos.size(), static_cast<std::size_t>(dados)));
-    const auto primeiraRecolhida = pontos.begin() + dados;
-    f.recolhidas.assign(primeiraRecolhida, pontos.end());
-    dimensionar(perfilForm_planilha(), dados + 1, f.flexGrid.colunas);
+    auto grade = f.flexGrid;
+    grade.dimensionar(dados + 1, grade.colunas);
     for (int l = 1; l <= dados; ++l) {
         const auto& [r, leitura] = pontos[static_cast<std::size_t>(l - 1)];
-        f.flexGrid.escrever(l, 0, std::to_string(l));
-        f.flexGrid.escrever(l, 1, r);
-        f.flexGrid.escrever(l, 2, leitura);
+        grade.escrever(l, 0, std::to_string(l));
+        grade.escrever(l, 1, r);
+        grade.escrever(l, 2, leitura);
     }
+    pontos.erase(pontos.begin(), pontos.begin() + dados);
+    dimensionar(perfilForm_planilha(), grade.linhas, grade.colunas);
+    f.flexGrid = std::move(grade);
+    f.recolhidas = std::move(pontos);
 }
 
 /// The distances that the grid holds so far.
@@ -99,10 +103,9 @@ void perfilForm_Option3_Click() {
 }
 
 void perfilForm_Option1_Click() {
-    sairDaCélula(perfilForm_planilha());
+    voltarADigitar(perfilForm_planilha());
     mostrarEntrada(true);
     perfilForm.ponteiro = Ponteiro::padrão;
-    entrarNaCélula(perfilForm_planilha());
 }
 
 void perfilForm_Option2_Click() {

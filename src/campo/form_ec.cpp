@@ -75,10 +75,14 @@ void gerarPlanilhaEC() {
     const int linhas = paraInteiro(linhasPedidas), coletores = paraInteiro(coletoresPedidos);
     if (linhas < 1 || coletores < 1) return;
     if (f.flex_A.linhas != 2 * coletores + 1 || f.flex_A.colunas != linhas + 1) {
-        dimensionar(planilha, 2 * coletores + 1, linhas + 1);
-        esvaziarDados(f.flex_A);
-        f.flex_A.linhaAtual = f.flex_A.colunaAtual = 1;
-        entrarNaCélula(planilha);
+        // Emptied before it takes the old one's place: one left half empty would have its size already, and
+        // the next time nothing would empty it.
+        auto grade = f.flex_A;
+        grade.dimensionar(2 * coletores + 1, linhas + 1);
+        esvaziarDados(grade);
+        grade.linhaAtual = grade.colunaAtual = 1;
+        f.flex_A = std::move(grade);
+        if (planilha.digitação) definirTexto(f.Text5, "");
     }
     escreverCabeçalhos(linhas, coletores, espaço);
     nomearCélula(planilha);
@@ -105,9 +109,8 @@ void formEC_Fechar() {
 }
 
 void formEC_Option1_Click() {
-    sairDaCélula(formEC_planilha());
+    voltarADigitar(formEC_planilha());
     mostrarEntrada(true);
-    entrarNaCélula(formEC_planilha());
 }
 
 void formEC_Option2_Click() {

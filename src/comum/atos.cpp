@@ -181,9 +181,12 @@ void irParaCélula(const Alvo& alvo, int linha, int coluna) {
 }
 
 void preencherCélula(const Alvo& alvo, int linha, int coluna, std::string texto) {
-    irParaCélula(alvo, linha, coluna);
+    deixarControle();
     const auto planilha = exigirPlanilha(alvo, linha, coluna);
+    // One operation: where going to the cell fails, nothing is typed into the one before.
     executarAto([&] {
+        varenta::irParaCélula(planilha, linha, coluna);
+        receberFoco(planilha);
         const int primeiraTecla = texto.empty() ? teclaEnter : static_cast<unsigned char>(texto[0]);
         if (primeiraTecla != teclaEnter && varenta::teclar(planilha, primeiraTecla)) return;
         definirTexto(planilha.entrada, std::move(texto));

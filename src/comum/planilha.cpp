@@ -5,6 +5,9 @@
 #include "comum/operacoes.h"
 #include "comum/plataforma.h"
 
+#include <algorithm>
+#include <utility>
+
 namespace varenta {
 namespace {
 
@@ -60,6 +63,19 @@ std::string recusaDoBloco(const Bloco& bloco, const Grade& grade) {
     return {};
 }
 
+/// Makes a cell the current one. What can fail comes first: an entry line that still held the text of the
+/// cell before would write it over this one's.
+void entrarEm(const Planilha& planilha, int linha, int coluna) {
+    auto& grade = planilha.grade;
+    auto texto = grade.célula(linha, coluna);
+    auto nome = nomeDe(grade, linha, coluna);
+    grade.linhaAtual = linha;
+    grade.colunaAtual = coluna;
+    if (!planilha.digitação) return;
+    planilha.nomeDaCélula.texto = std::move(nome);
+    definirTexto(planilha.entrada, std::move(texto));
+}
+
 } // namespace
 
 void nomearCélula(const Planilha& planilha) {
@@ -68,10 +84,7 @@ void nomearCélula(const Planilha& planilha) {
 }
 
 void entrarNaCélula(const Planilha& planilha) {
-    if (!planilha.digitação) return;
-    const auto& grade = planilha.grade;
-    nomearCélula(planilha);
-    definirTexto(planilha.entrada, grade.célula(grade.linhaAtual, grade.colunaAtual));
+    if (planilha.digitação) entrarEm(planilha, planilha.grade.linhaAtual, planilha.grade.colunaAtual);
 }
 
 void sairDaCélula(const Planilha& planilha) {
@@ -83,11 +96,18 @@ void sairDaCélula(const Planilha& planilha) {
     if (planilha.aoMudar) planilha.aoMudar();
 }
 
+void voltarADigitar(Planilha planilha) {
+    sairDaCélula(planilha);
+    planilha.digitação = true;
+    entrarNaCélula(planilha);
+}
+
 void dimensionar(const Planilha& planilha, int linhas, int colunas) {
     auto& grade = planilha.grade;
-    const int linha = grade.linhaAtual, coluna = grade.colunaAtual;
+    const int linha = std::min(grade.linhaAtual, linhas - 1),
+              coluna = std::min(grade.colunaAtual, colunas - 1);
+    if (grade.linhaAtual != linha || grade.colunaAtual != coluna) entrarEm(planilha, linha, coluna);
     grade.dimensionar(linhas, colunas);
-    if (grade.linhaAtual != linha || grade.colunaAtual != coluna) entrarNaCélula(planilha);
 }
 
 std::string recusaDoTamanho(double linhas, double colunas) {
@@ -113,12 +133,9 @@ std::string textoDePreenchidas(const Grade& grade) {
 }
 
 void irParaCélula(const Planilha& planilha, int linha, int coluna) {
-    auto& grade = planilha.grade;
-    grade.célula(linha, coluna);
+    planilha.grade.célula(linha, coluna);
     sairDaCélula(planilha);
-    grade.linhaAtual = linha;
-    grade.colunaAtual = coluna;
-    entrarNaCélula(planilha);
+    entrarEm(planilha, linha, coluna);
 }
 
 void colar(const Planilha& planilha, const Bloco& bloco) {

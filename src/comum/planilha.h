@@ -35,6 +35,10 @@ void entrarNaCélula(const Planilha& planilha);
 /// text that is no number as typed (a later check answers it), an empty one empties the cell.
 void sairDaCélula(const Planilha& planilha);
 
+/// The current cell is left if it was being typed into, and entered for typing. To be done before the entry
+/// line shows: one in sight holds what its cell does.
+void voltarADigitar(Planilha planilha);
+
 /// Gives the grid its size. Where the current cell moves with it, the entry line takes the new one's text, so
 /// that nothing of the old one is written there.
 void dimensionar(const Planilha& planilha, int linhas, int colunas);
