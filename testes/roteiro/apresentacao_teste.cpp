@@ -1,6 +1,5 @@
 #include "bancada.h"
 
-#include <cstdlib>
 #include <numbers>
 #include <string>
 #include <vector>
