@@ -7,6 +7,7 @@
 #include "comum/erro_execucao.h"
 #include "comum/numeros.h"
 #include "comum/operacoes.h"
+#include "comum/plataforma.h"
 #include "uniformidade/graficos_sobreposicao.h"
 #include "uniformidade/relatorios.h"
 #include "uniformidade/uniformidade_centro.h"
@@ -111,6 +112,8 @@ void prepararSobreposicao() {
     f.Label16.texto = paraTexto(0);
     std::size_t q = 0;
     for (const auto& texto : f.cmbEspaçamento.itens) {
+        // Two million readings, at thousands of spacings, take a minute.
+        plataforma::respirar();
         const double E = lerPrefixo(texto);
         const auto valores = sobreporMedida(ensaio, E).valores;
         if (valores.size() >= 2) q = menorQuarto(valores.size());

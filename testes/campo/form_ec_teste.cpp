@@ -201,6 +201,7 @@ TEST_F(EnsaioDeCampo, UmEnsaioEstreitoDemaisNãoSeSobrepõe) {
     respostas = {};
     clicar(formEC, "Command4");
     EXPECT_EQ(formUnifo->cmbEspaçamento.itens, std::vector<std::string>{"6"});
+    EXPECT_EQ(respiros, 1); // at each spacing, since there may be thousands
 }
 
 // What the entry line holds counts without an Enter.

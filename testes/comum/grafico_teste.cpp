@@ -50,6 +50,19 @@ TEST(Grafico, ORetânguloContémAsSuasBordas) {
     EXPECT_FALSE(malha.contém(100, 203.5));
 }
 
+TEST(Grafico, OPontoMarcadoÉCheioEOQueVemDepoisNão) {
+    Desenho desenho;
+    marcarPonto(desenho, {10, 20});
+    desenho.arco(30, 40, 5, cores::preto);
+    ASSERT_EQ(desenho.traços.size(), 2u);
+    const auto& ponto = std::get<Arco>(desenho.traços[0]);
+    EXPECT_EQ(ponto.cx, 10);
+    EXPECT_EQ(ponto.cy, 20);
+    EXPECT_EQ(ponto.cor, cores::vermelho);
+    EXPECT_TRUE(ponto.preenchido);
+    EXPECT_FALSE(std::get<Arco>(desenho.traços[1]).preenchido);
+}
+
 TEST(Grafico, AEscalaMultiplicaOPassoEmVezDeOAcumular) {
     // 0.45 x 7 is a little under 3.15; seven sums of 0.45 give a little over.
     std::array<Rotulo, 8> rótulos;
