@@ -218,7 +218,7 @@ TEST_F(PerfilDoMóvel, MostraOPerfilNaEscalaDaVazão) {
     digitar(formEC, "Text13", "50");
     digitar(formEC, "Text1", "24");
     const double Q = vazãoFeitaÀMão() / 1000;
-    digitar(formEC, "Text12", std::to_string(Q));
+    digitar(formEC, "Text12", Format(Q, "0.000000"));
     gerar();
     EXPECT_EQ(caderno, std::vector<std::string>{});
     const auto& p = *perfil.operator->();

@@ -177,7 +177,9 @@ TEST_F(SimulaçãoDoMedido, FecharFechaPerfilEDevolveOMenu) {
 Leituras ensaioDoCatálogo() {
     const double R = lerPrefixo(form1->lblRaioAlcance.texto);
     const auto i = [](std::size_t k) { return lerPrefixo(form1->lblIntensidade[k].texto); };
-    const auto leitura = [](double r, double i) { return std::pair{std::to_string(r), std::to_string(i)}; };
+    const auto leitura = [](double r, double i) {
+        return std::pair{Format(r, "0.000000"), Format(i, "0.000000")};
+    };
     Leituras leituras{leitura(0.0125 * R, (i(1) + i(2)) / 2)};
     for (std::size_t k = 2; k <= 21; ++k)
         leituras.push_back(leitura((0.025 + 0.05 * static_cast<double>(k - 2)) * R, i(k)));
