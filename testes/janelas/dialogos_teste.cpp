@@ -1,5 +1,7 @@
 #include "com_janelas.h"
 
+#include "apoio/pasta_temporaria.h"
+#include "campo/form_ec.h"
 #include "comum/plataforma.h"
 
 #include <QAbstractButton>
@@ -44,9 +46,25 @@ TEST_F(CaixasDoQt, a_mensagem_tem_o_título_do_programa_e_o_texto_puro) {
         EXPECT_EQ(caixa.text(), "a < b & c");
         EXPECT_EQ(caixa.textFormat(), Qt::PlainText);
         EXPECT_EQ(caixa.standardButtons(), QMessageBox::Ok);
+        EXPECT_EQ(caixa.informativeText(), "");
         apertar(caixa, QMessageBox::Ok);
     });
     plataforma::mensagem("a < b & c");
+}
+
+TEST_F(CaixasDoQt, a_recusa_de_um_arquivo_diz_embaixo_em_que_linha) {
+    const PastaTemporaria pasta;
+    dialogos().perguntar = [](const QString&) { return true; };
+    dialogos().arquivoParaAbrir = [&](const QString&) {
+        return QString::fromStdString(pasta.gravar("curto.txt", "nome\n22 x 6\n"));
+    };
+    clicarMenu("EnsCampo");
+    aoAbrir<QMessageBox>([](QMessageBox& caixa) {
+        EXPECT_EQ(caixa.text(), "O arquivo não pode ser aberto, consulte a ajuda!");
+        EXPECT_EQ(caixa.informativeText(), "O arquivo termina na linha 2.");
+        apertar(caixa, QMessageBox::Ok);
+    });
+    clicar(formEC, "Option2");
 }
 
 TEST_F(CaixasDoQt, a_pergunta_tem_Sim_e_Não) {
