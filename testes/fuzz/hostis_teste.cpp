@@ -80,6 +80,7 @@ class ArquivosHostis : public testing::TestWithParam<Leitor> {
     }
     /// The program goes on: every sample is read.
     void TearDown() override {
+        RecordProperty("arquivos", quantos);
         for (const auto& nome : GetParam().amostras) {
             const auto bytes = amostra(nome);
             EXPECT_TRUE(tentar(nome, pasta.gravar("bom.txt", bytes), linhasDe(bytes))) << nome;

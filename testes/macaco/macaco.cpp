@@ -15,6 +15,7 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <cstdlib>
 #include <fstream>
 #include <iterator>
 #include <map>
@@ -193,7 +194,9 @@ int executarMacaco(long atos, unsigned semente) {
         if (!errado.empty()) {
             for (const auto& passo : macaco.história()) std::fputs(passo.c_str(), stdout);
             std::printf("# seed %u, act %ld: %s\n", semente, n, errado.c_str());
-            return 1;
+            // The files that it names stay where they are.
+            std::fflush(stdout);
+            std::_Exit(1);
         }
         if (n == atos / 2) noMeio = memóriaResidente();
     }

@@ -356,7 +356,9 @@ int executarMacaco(long atos, unsigned semente) {
     if (!errado.empty()) {
         for (const auto& linha : macaco.história()) std::fputs(linha.c_str(), stdout);
         std::printf("# seed %u, act %ld: %s\n", semente, n, errado.c_str());
-        return 1;
+        // The files that it names stay where they are.
+        std::fflush(stdout);
+        std::_Exit(1);
     }
     for (const auto& [tipo, quantos] : macaco.feitos()) std::printf("%s %ld\n", tipo.c_str(), quantos);
     std::printf("resident at the end %.0f MiB\n", memóriaResidente());
