@@ -319,7 +319,8 @@ bool LeitorDeLinhas::sóRestaBranco() const {
 std::string LeitorDeLinhas::onde() const {
     if (!motivo_.empty()) return "Motivo: " + motivo_ + ".";
     const auto número = std::to_string(linha_);
-    if (terminou_) return linha_ == 0 ? "O arquivo está vazio." : "O arquivo termina na linha " + número + ".";
+    if (terminou_)
+        return linha_ == 0 ? "O arquivo está vazio." : "O arquivo termina na linha " + número + ".";
     return linha_ == 0 ? "" : "Linha " + número + " do arquivo.";
 }
 

@@ -33,8 +33,8 @@ class LeitorDeLinhas {
     /// error of its own for one longer than `maiorLinha`.
     std::string próxima();
 
-    /// Where the reading stands, as a person is told of a file that is refused: the line that was read last, the
-    /// one that the file ends with where more was asked for, or why it couldn't be opened.
+    /// Where the reading stands, as a person is told of a file that is refused: the line that was read last,
+    /// the one that the file ends with where more was asked for, or why it couldn't be opened.
     std::string onde() const;
 
   private:
