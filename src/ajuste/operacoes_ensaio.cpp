@@ -3,6 +3,7 @@
 #include "ajuste/cabecalhos.h"
 #include "ajuste/verificacoes_ensaio.h"
 #include "comum/arquivo_texto.h"
+#include "comum/arquivos_de_dados.h"
 #include "comum/erro_execucao.h"
 #include "comum/limites.h"
 #include "comum/numeros.h"
@@ -105,19 +106,17 @@ void abrirEnsaio(const TelaDeEnsaio& ensaio, Aspersor aspersor) {
 
 void abrirArquivoDeEnsaio(const TelaDeEnsaio& ensaio, std::initializer_list<CaixaTexto*> caixas,
                           const std::function<void(const std::string&)>& ler) {
-    const auto voltarADigitar = [&] { marcar(ensaio.tela, ensaio.controles.Option2); };
-    try {
-        confirmarEntrada(ensaio.controles);
-        if (plataforma::perguntar("O arquivo deve estar na extensão: *.TXT separado por tabulações!")) {
+    abrirOuVoltar(
+        [&] {
+            confirmarEntrada(ensaio.controles);
+            if (!plataforma::perguntar(perguntaDaExtensão)) return false;
             for (auto* caixa : caixas) definirTexto(*caixa, "");
-            const auto caminho = plataforma::arquivoParaAbrir({.filtro = "Arquivos Texto (*.TXT)|*.TXT"});
-            if (caminho && !caminho->empty()) return ler(*caminho);
-        }
-    } catch (...) {
-        voltarADigitar();
-        throw;
-    }
-    voltarADigitar();
+            const auto caminho = pedirArquivoDeDados();
+            if (!caminho) return false;
+            ler(*caminho);
+            return true;
+        },
+        [&] { marcar(ensaio.tela, ensaio.controles.Option2); });
 }
 
 void escreverAspersorDoArquivo(ControlesDeEnsaio& controles, const ArquivoDeEnsaio& arquivo) {

@@ -109,18 +109,16 @@ void perfilForm_Option1_Click() {
 }
 
 void perfilForm_Option2_Click() {
-    const auto voltarADigitar = [] {
-        marcar(perfilForm, perfilForm->Option1);
-        focar(perfilForm->Option1);
-    };
-    try {
-        sairDaCélula(perfilForm_planilha());
-        mostrarEntrada(false);
-        if (!abrirArquivoRadial()) voltarADigitar();
-    } catch (...) {
-        voltarADigitar();
-        throw;
-    }
+    abrirOuVoltar(
+        [] {
+            sairDaCélula(perfilForm_planilha());
+            mostrarEntrada(false);
+            return abrirArquivoRadial();
+        },
+        [] {
+            marcar(perfilForm, perfilForm->Option1);
+            focar(perfilForm->Option1);
+        });
 }
 
 void perfilForm_Text5_Change() {

@@ -114,18 +114,16 @@ void formEC_Option1_Click() {
 }
 
 void formEC_Option2_Click() {
-    const auto voltarADigitar = [] {
-        marcar(formEC, formEC->Option1);
-        focar(formEC->Option1);
-    };
-    try {
-        sairDaCélula(formEC_planilha());
-        mostrarEntrada(false);
-        if (!abrirArquivoMóvel()) voltarADigitar();
-    } catch (...) {
-        voltarADigitar();
-        throw;
-    }
+    abrirOuVoltar(
+        [] {
+            sairDaCélula(formEC_planilha());
+            mostrarEntrada(false);
+            return abrirArquivoMóvel();
+        },
+        [] {
+            marcar(formEC, formEC->Option1);
+            focar(formEC->Option1);
+        });
 }
 
 bool formEC_Text5_KeyPress(int tecla) { return teclar(formEC_planilha(), tecla); }

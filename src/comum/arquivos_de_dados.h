@@ -35,4 +35,16 @@ std::string ouSubstituto(const std::string& texto, const char* substituto);
 /// The cells of a row, separated by tabs or by another sign. A row always has one cell at least.
 std::vector<std::string> separarColunas(std::string_view linha, char separador = '\t');
 
+/// Opens a file, and goes back where none was opened, be it that an error, which passes on, cut it short.
+template <class Abrir, class Voltar>
+void abrirOuVoltar(const Abrir& abrir, const Voltar& voltar) {
+    try {
+        if (abrir()) return;
+    } catch (...) {
+        voltar();
+        throw;
+    }
+    voltar();
+}
+
 } // namespace varenta

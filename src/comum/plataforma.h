@@ -17,7 +17,8 @@ struct DialogoArquivo {
     std::string extensãoPadrão = {};
 };
 
-/// A plain message box with an OK button. What stands beneath the text, in smaller letters, only a window shows.
+/// A plain message box with an OK button. What stands beneath the text, in smaller letters, only a window
+/// shows.
 void mensagem(std::string_view texto, std::string_view detalhe = {});
 /// A box with Yes and No; true for Yes.
 bool perguntar(std::string_view texto);

@@ -120,7 +120,8 @@ Dialogos dialogosDoQt() {
     return {
         .mensagem =
             [](const QString& texto, const QString& detalhe) {
-                mostrarCaixa(QMessageBox::Information, texto, QMessageBox::Ok, QMessageBox::NoButton, detalhe);
+                mostrarCaixa(QMessageBox::Information, texto, QMessageBox::Ok, QMessageBox::NoButton,
+                             detalhe);
             },
         .perguntar =
             [](const QString& texto) {

@@ -3,6 +3,7 @@
 #include "aspersor/form1.h"
 #include "aspersor/perfil.h"
 #include "comum/ajuda.h"
+#include "comum/arquivos_de_dados.h"
 #include "comum/numeros.h"
 #include "comum/operacoes.h"
 #include "comum/plataforma.h"
@@ -103,12 +104,10 @@ void form7_HScroll5_Change() {
 }
 
 void form7_Command1_Click() {
-    if (!plataforma::perguntar("O arquivo deve estar na extensão: *.TXT separado por tabulações!")) return;
+    if (!plataforma::perguntar(perguntaDaExtensão)) return;
     auto& f = *form7.operator->();
     for (auto* caixa : {&f.Text2, &f.Text3, &f.Text4, &f.Text5, &f.Text6, &f.Text7}) definirTexto(*caixa, "");
-    const auto caminho = plataforma::arquivoParaAbrir({.filtro = "Arquivos Texto (*.TXT)|*.TXT"});
-    if (!caminho || caminho->empty()) return;
-    lerArquivoDeParametros(*caminho);
+    if (const auto caminho = pedirArquivoDeDados()) lerArquivoDeParametros(*caminho);
 }
 
 void form7_Command4_Click() { voltarPara(form1); }
