@@ -12,6 +12,8 @@
 #include "comum/atos.h"
 #include "shell/sistema.h"
 
+#include <gtest/gtest.h>
+
 #include <algorithm>
 #include <new>
 #include <sstream>
