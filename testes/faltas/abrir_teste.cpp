@@ -24,7 +24,7 @@
 namespace varenta::teste {
 namespace {
 
-/// A screen that reads test files, with a reading typed before, and the ways to and from a file.
+/// A screen that reads test files, and the ways to it, to a file and back to typing.
 struct Leitora {
     TelaBase& tela;
     const char* arquivo;

@@ -29,7 +29,8 @@ using teste::PastaTemporaria;
 
 /// A save over `velho.txt` (or of a new file) with the n-th call failing, for every n until none is left.
 /// Returns the names of the calls that were seen to fail.
-std::set<std::string> gravarComCadaFalha(int erro, const std::string& motivo, bool existe) {
+std::set<std::string> gravarComCadaFalha(int erro, const std::string& motivo, bool existe,
+                                         FalhaDaChamada::Duração duração = FalhaDaChamada::umaVez) {
     const std::string velho = "velho", novo(10'000, 'n');
     std::set<std::string> falhas;
     for (int n = 1;; ++n) {
@@ -37,7 +38,7 @@ std::set<std::string> gravarComCadaFalha(int erro, const std::string& motivo, bo
         if (existe) pasta.gravar("a.txt", velho);
         std::string dito, qual;
         {
-            const FalhaDaChamada falha{n, erro};
+            const FalhaDaChamada falha{n, erro, duração};
             dito = erroDe([&] { gravarTexto(pasta.caminho("a.txt"), novo); });
             qual = falha.qualFalhou();
         }
@@ -66,6 +67,11 @@ TEST(GravarTextoComFalhas, CadaChamadaQueFalhaDeixaOVelhoOuONovoInteiroEARespost
 TEST(GravarTextoComFalhas, UmArquivoNovoNãoNascePelaMetade) {
     gravarComCadaFalha(ENOSPC, "não há espaço no disco", false);
     gravarComCadaFalha(EROFS, "o disco só admite leitura", false);
+}
+
+TEST(GravarTextoComFalhas, UmDiscoQueNãoVoltaDeixaOVelhoOuONovoInteiroEARespostaCerta) {
+    for (const bool existe : {true, false})
+        gravarComCadaFalha(EIO, "falha do disco", existe, FalhaDaChamada::deEmDiante);
 }
 
 TEST(LerTextoComFalhas, CadaChamadaQueFalhaÉDita) {

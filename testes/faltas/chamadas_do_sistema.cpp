@@ -13,12 +13,20 @@ namespace {
 
 int faltam = 0; // calls until the one that fails; 0 where none is to fail
 int número = 0;
+bool paraSempre = false;
 std::string_view sempre; // the call that always fails; empty where none does
 const char* falhou = nullptr;
 
 /// Whether the call `nome` is the one to fail; errno is set then.
 bool deveFalhar(const char* nome) {
-    if (nome != sempre && (faltam == 0 || --faltam > 0)) return false;
+    if (nome != sempre) {
+        if (faltam == 0) return false;
+        if (faltam > 1) {
+            --faltam;
+            return false;
+        }
+        if (!paraSempre) faltam = 0;
+    }
     falhou = nome;
     errno = número;
     return true;
@@ -26,8 +34,9 @@ bool deveFalhar(const char* nome) {
 
 } // namespace
 
-FalhaDaChamada::FalhaDaChamada(int n, int erro) {
+FalhaDaChamada::FalhaDaChamada(int n, int erro, Duração duração) {
     faltam = n;
+    paraSempre = duração == deEmDiante;
     número = erro;
     falhou = nullptr;
 }

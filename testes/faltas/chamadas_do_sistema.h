@@ -6,10 +6,12 @@
 namespace varenta::teste {
 
 /// From its making to its end, the `n`-th call (from 1) fails with the number `erro`. A write that is to fail
-/// first takes half of what it gets; the one after it fails.
+/// first takes half of what it gets; the one after it fails. Those after the `n`-th fail too, if it is for
+/// good.
 class FalhaDaChamada {
   public:
-    FalhaDaChamada(int n, int erro);
+    enum Duração { umaVez, deEmDiante };
+    FalhaDaChamada(int n, int erro, Duração duração = umaVez);
     /// Every call of that name fails.
     FalhaDaChamada(const char* nome, int erro);
     FalhaDaChamada(const FalhaDaChamada&) = delete;
