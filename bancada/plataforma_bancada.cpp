@@ -15,7 +15,7 @@ namespace {
 
 } // namespace
 
-void mensagem(std::string_view texto) { parar(texto); }
+void mensagem(std::string_view texto, std::string_view) { parar(texto); }
 bool perguntar(std::string_view texto) { parar(texto); }
 void avisar(std::string_view) {}
 void mostrarAmpulheta(bool) {}
