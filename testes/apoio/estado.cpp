@@ -144,17 +144,19 @@ bool nãoÉNúmero(std::string_view texto) {
     return false;
 }
 
-std::string estadoDasTelas() {
+std::string estadoÀVista() {
     std::string texto;
     for (auto* tela : telasEmOrdem()) {
         if (!tela->carregada()) continue;
         texto += tela->nome() + " \"" + tela->caption() + "\"" + (tela->visivel ? " shown" : " hidden") +
                  (tela->habilitada ? " enabled" : " disabled") +
                  (tela->ponteiro == Ponteiro::ampulheta ? " hourglass" : "") + "\n";
-        for (const auto& elemento : tela->elementos())
+        for (const auto& elemento : tela->elementos()) {
+            if (!estáVisível(elemento) && estáHabilitado(elemento)) continue;
             texto += " " + elemento.nomeCompleto() + (estáVisível(elemento) ? " v" : " -") +
                      (estáHabilitado(elemento) ? "e " : "- ") + std::visit(Conteúdo{}, elemento.controle) +
                      "\n";
+        }
     }
     return texto;
 }

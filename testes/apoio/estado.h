@@ -11,8 +11,9 @@
 namespace varenta::teste {
 
 /// Every loaded screen with its title, flags and all that its controls hold, as text: equal texts are equal
-/// states. A drawing stands there as its strokes' digest.
-std::string estadoDasTelas();
+/// states. A drawing stands there as its strokes' digest. Hidden controls that are enabled are left out: an
+/// entry line out of use holds what it last held, and takes its cell's text when it comes back.
+std::string estadoÀVista();
 
 /// A digest of strokes: that of others differs.
 std::uint64_t resumoDosTraços(std::span<const Traço> traços);

@@ -20,6 +20,7 @@ std::deque<std::optional<std::string>> arquivos;
 void recomeçar() {
     iniciarSistema();
     caderno.clear();
+    detalheDaMensagem.clear();
     ampulhetas.clear();
     falhaDaAjuda.clear();
     progressos.clear();

@@ -16,7 +16,6 @@
 
 #include <algorithm>
 #include <new>
-#include <sstream>
 #include <string>
 #include <utility>
 #include <vector>
@@ -53,15 +52,6 @@ void chegar(const Leitora& leitora) {
     for (const auto& [tela, botão] : leitora.caminho) atos::clicar(alvo(*telaDeNome(tela), botão));
     respostas = {true};
     arquivos = {std::string{EXEMPLOS "/"} + leitora.arquivo};
-}
-
-/// An entry line out of use holds what it last held.
-std::string estadoÀVista() {
-    std::istringstream estado{estadoDasTelas()};
-    std::string visto;
-    for (std::string linha; std::getline(estado, linha);)
-        if (linha.find(" -e ") == std::string::npos) visto += linha + '\n';
-    return visto;
 }
 
 /// Whether the way that a screen has marked says where its data are from: a file that couldn't be read whole

@@ -29,11 +29,7 @@ class ComJanelas : public testing::Test {
   protected:
     void SetUp() override {
         dialogos() = {
-            .mensagem =
-                [this](const QString& texto, const QString& detalhe) {
-                    caixas.push_back(texto);
-                    detalheDaCaixa = detalhe;
-                },
+            .mensagem = [this](const QString& texto, const QString&) { caixas.push_back(texto); },
             .perguntar =
                 [this](const QString& texto) {
                     caixas.push_back(texto);
@@ -116,8 +112,6 @@ class ComJanelas : public testing::Test {
     std::optional<Janelas> janelas;
     /// The texts of all boxes that appeared.
     std::vector<QString> caixas;
-    /// What stood beneath the text of the last message.
-    QString detalheDaCaixa;
     /// The topics of the help that were asked for.
     std::vector<std::optional<int>> ajudas;
     std::deque<bool> respostas;
